@@ -1,0 +1,94 @@
+// SPDX-FileCopyrightText: The Boulix developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "core/failure.h"
+
+#include <cerrno>
+#include <utility>
+
+namespace boulix {
+
+namespace {
+
+const char *describe(Failure failure) {
+    switch (failure) {
+    case Failure::invalidCall:
+        return "Appel de procédure ou argument incorrect";
+    case Failure::overflow:
+        return "Dépassement de capacité";
+    case Failure::outOfMemory:
+        return "Mémoire insuffisante";
+    case Failure::subscriptOutOfRange:
+        return "L'indice n'appartient pas à la sélection";
+    case Failure::divisionByZero:
+        return "Division par zéro";
+    case Failure::typeMismatch:
+        return "Incompatibilité de type";
+    case Failure::badFileName:
+        return "Nom ou numéro de fichier incorrect";
+    case Failure::fileNotFound:
+        return "Fichier introuvable";
+    case Failure::deviceError:
+        return "Erreur d'entrée/sortie de périphérique";
+    case Failure::diskFull:
+        return "Disque plein";
+    case Failure::inputPastEnd:
+        return "Lecture au-delà de la fin du fichier";
+    case Failure::permissionDenied:
+        return "Permission refusée";
+    case Failure::pathAccess:
+        return "Erreur d'accès au chemin/fichier";
+    case Failure::pathNotFound:
+        return "Chemin d'accès introuvable";
+    case Failure::objectNotSet:
+        return "Variable objet non définie";
+    case Failure::invalidPropertyValue:
+        return "Valeur de propriété non valide";
+    case Failure::printerError:
+        return "Erreur d'impression";
+    }
+    return "Erreur inconnue";
+}
+
+Failure failureOf(int error) {
+    switch (error) {
+    case ENOENT:
+        return Failure::fileNotFound;
+    case ENOTDIR:
+        return Failure::pathNotFound;
+    case EACCES:
+    case EPERM:
+    case EROFS:
+        return Failure::permissionDenied;
+    case EISDIR:
+        return Failure::pathAccess;
+    case ENOSPC:
+    case EDQUOT:
+    case EFBIG:
+        return Failure::diskFull;
+    default:
+        return Failure::deviceError;
+    }
+}
+
+} // namespace
+
+RuntimeFailure::RuntimeFailure(Failure failure) : RuntimeFailure(failure, describe(failure)) {}
+
+RuntimeFailure::RuntimeFailure(Failure failure, std::string description)
+    : number_(static_cast<int>(failure)), description_(std::move(description)) {}
+
+void fail(Failure failure) {
+    throw RuntimeFailure(failure);
+}
+
+void fail(Failure failure, const std::string &description) {
+    throw RuntimeFailure(failure, description);
+}
+
+void failForFile(int error, const std::string &path) {
+    const Failure failure = failureOf(error);
+    throw RuntimeFailure(failure, std::string(describe(failure)) + " : " + path);
+}
+
+} // namespace boulix

@@ -1,0 +1,57 @@
+// SPDX-FileCopyrightText: The Boulix developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <exception>
+#include <string>
+
+namespace boulix {
+
+/// The unexpected failures of the system, with the numbers that the user is shown.
+enum class Failure {
+    invalidCall = 5,
+    overflow = 6,
+    outOfMemory = 7,
+    subscriptOutOfRange = 9,
+    divisionByZero = 11,
+    typeMismatch = 13,
+    badFileName = 52,
+    fileNotFound = 53,
+    deviceError = 57,
+    diskFull = 61,
+    inputPastEnd = 62,
+    permissionDenied = 70,
+    pathAccess = 75,
+    pathNotFound = 76,
+    objectNotSet = 91,
+    invalidPropertyValue = 380,
+    printerError = 482,
+};
+
+/// An unexpected failure on its way to the handler that shows it. Nothing between the place
+/// where it starts and that handler catches it.
+class RuntimeFailure : public std::exception {
+  public:
+    /// A failure with its usual description in French.
+    explicit RuntimeFailure(Failure failure);
+    /// A failure whose description says more than the usual one (a file, an entry).
+    RuntimeFailure(Failure failure, std::string description);
+
+    int number() const { return number_; }
+    const std::string &description() const { return description_; }
+    const char *what() const noexcept override { return description_.c_str(); }
+
+  private:
+    int number_;
+    std::string description_;
+};
+
+[[noreturn]] void fail(Failure failure);
+[[noreturn]] void fail(Failure failure, const std::string &description);
+
+/// The failure that stands for the operating system's error number `error` (errno) on the file
+/// `path`; its description names the file.
+[[noreturn]] void failForFile(int error, const std::string &path);
+
+} // namespace boulix

@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: The Boulix developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "core/dates.h"
+
+#include <string>
+
+namespace boulix {
+
+/// What the logic asks of the system it runs on. The program gives the real one, a test a
+/// settable one.
+class Platform {
+  public:
+    virtual ~Platform() = default;
+
+    /// The day of today, without its time.
+    virtual Date today() const = 0;
+    /// `date` in the short form of the system's regional settings; `date` is valid.
+    virtual std::string shortDate(Date date) const = 0;
+    /// The folder of the executable, without a separator at its end.
+    virtual std::string applicationFolder() const = 0;
+    /// The raw command line without the program's name.
+    virtual std::string commandLine() const = 0;
+
+    /// Starts a new random sequence from the clock.
+    virtual void seedRandomFromClock() = 0;
+    /// The next random value in [0, 1).
+    virtual float nextRandom() = 0;
+};
+
+/// The platform in use; `setPlatform` comes first, and keeps a reference only.
+Platform &platform();
+void setPlatform(Platform *platform);
+
+/// `date` in the system's short form; an invalid date fails with `Failure::overflow`.
+std::string shortDate(Date date);
+
+} // namespace boulix

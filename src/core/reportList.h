@@ -1,0 +1,59 @@
+// SPDX-FileCopyrightText: The Boulix developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace boulix {
+
+/// A column of a list in report view.
+struct ReportColumn {
+    std::string header;
+    std::string sample; ///< a text as wide as the column wants to be; empty: the header decides
+    bool centred = false;
+};
+
+/// What a list in report view shows. A cell's text is asked for when it is drawn, so a list of
+/// millions of rows appears at once; its order can follow the text of a column.
+class reportList {
+  public:
+    using Cell = std::function<std::string(std::int64_t row, int column)>;
+
+    /// New columns, no rows, no sorting.
+    void columns(std::vector<ReportColumn> columns);
+    const std::vector<ReportColumn> &columns() const { return columns_; }
+
+    /// New rows, in computed order: `cell` gives the text of row 0 to `count` - 1.
+    void rows(std::int64_t count, Cell cell);
+    /// No rows any more.
+    void clear();
+    std::int64_t rowCount() const { return count_; }
+
+    /// Orders the rows ascending by the text of `column`; equal texts keep their order.
+    void sortByText(int column);
+    /// The column of the sort key, -1 while the rows stand in computed order.
+    int sortColumn() const { return sortColumn_; }
+
+    /// The text of a cell at the place `row` of the list as it is shown.
+    std::string text(std::int64_t row, int column) const;
+    /// The computed row shown at the place `row`.
+    std::int64_t sourceRow(std::int64_t row) const;
+
+    /// Called after any change of columns, rows or order.
+    std::function<void()> changed;
+
+  private:
+    void notify() const;
+
+    std::vector<ReportColumn> columns_;
+    Cell cell_;
+    std::int64_t count_ = 0;
+    int sortColumn_ = -1;
+    std::vector<std::uint32_t> order_; // empty while unsorted
+};
+
+} // namespace boulix

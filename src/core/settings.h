@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: The Boulix developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <string>
+
+namespace boulix::settings {
+
+/// The value of `key` in `section` of boulix.ini in the application folder, trimmed;
+/// `defaultValue` where key, section or file is missing. Names are compared without regard to
+/// case. The file is read anew at each call.
+std::string read(const std::string &section, const std::string &key,
+                 const std::string &defaultValue);
+
+/// Writes one value and leaves every other line of the file as it is: comments, unknown keys,
+/// blanks, line ends. Section, key and file are made when missing. A file that cannot be
+/// written is a run-time failure.
+void write(const std::string &section, const std::string &key, const std::string &value);
+
+/// Deletes the line of `key`; nothing happens where it is missing.
+void remove(const std::string &section, const std::string &key);
+
+} // namespace boulix::settings

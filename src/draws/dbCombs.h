@@ -1,0 +1,78 @@
+// SPDX-FileCopyrightText: The Boulix developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "draws/dbComb.h"
+#include "files/xFile.h"
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace boulix {
+
+class game;
+class gameResult;
+class gameWin;
+struct progressBar;
+
+/// All past draws in memory, and the only reader and writer of their file. A draw is numbered by
+/// its position from 1, the oldest first after a sort. References to draws hold until the
+/// collection changes.
+class dbCombs {
+  public:
+    const xFile &dbFile() const { return dbFile_; }
+    xFile &dbFile() { return dbFile_; }
+    void dbFile(const xFile &file) { dbFile_ = file; }
+
+    /// Appends a draw, and saves the base when asked to. No check of doubles. The key of the
+    /// collection is not used by anybody and stays empty.
+    dbComb &Add(Date day, std::int16_t id, const lotoComb &comb, bool doSave,
+                const std::string &key);
+    /// The draw at `index`, 1 to `Count`; any other fails with `Failure::subscriptOutOfRange`.
+    const dbComb &Item(std::int64_t index) const;
+    dbComb &Item(std::int64_t index);
+    std::int32_t Count() const { return static_cast<std::int32_t>(draws_.size()); }
+
+    // The draws in collection order.
+    auto begin() const { return draws_.begin(); }
+    auto end() const { return draws_.end(); }
+
+    /// Lets the user enter a new draw; it goes to the end and the base is saved.
+    void AddNewDBComb();
+    /// Removes the draw at `index` and saves.
+    void Remove(std::int64_t index);
+    /// Lets the user change the draw at `index`, then sorts and saves, also after a cancel.
+    void modify(std::int32_t index);
+
+    void PrintDB();
+    void ExportDB();
+
+    /// Removes all draws, in memory only.
+    void clear() { draws_.clear(); }
+    /// Orders the draws with the exchange sort of this class; an empty base fails.
+    void sort();
+    /// Reads the file. A missing file is made, a refused one leaves the base empty.
+    void load();
+    /// Asks for a file of the operator and merges it. True when the base was merged and saved.
+    bool ImportFdjFile();
+
+    /// Checks the game against every draw.
+    gameResult VerifyGame(const game &grids, progressBar &bar,
+                          std::vector<std::vector<gameWin>> &wins,
+                          std::vector<std::int32_t> &winsCount);
+
+  private:
+    void quickSort(std::int64_t first, std::int64_t last);
+    void save();
+    bool isAscending() const;
+    bool readImport(const std::string &fileName);
+    bool removeDoubles();
+    void restoreOrder();
+
+    std::vector<dbComb> draws_;
+    xFile dbFile_;
+};
+
+} // namespace boulix
