@@ -73,6 +73,10 @@ class Desktop {
 
     virtual void showSplash(const SplashTexts &texts) = 0;
     virtual void unloadSplash() = 0;
+    /// Shows the main window, whose state the logic has loaded before, without blocking.
+    virtual void showMainWindow() = 0;
+    /// Closes every window but the main one.
+    virtual void unloadOtherWindows() = 0;
     /// Opens the help file. `target` is the file, or "file>window"; `context` selects a page.
     virtual void showHelp(const std::string &target, std::optional<std::int32_t> context) = 0;
 };

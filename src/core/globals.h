@@ -10,6 +10,7 @@ namespace boulix {
 class appInfo;
 class dbCombs;
 class eliminators;
+class frmMain;
 class game;
 class gridConfig;
 class pronostics;
@@ -42,9 +43,11 @@ inline Global<eliminators> gEliminators;
 inline Global<pronostics> gPronostics;
 inline Global<game> currentGame;
 inline Global<game> constructionGame;
+inline Global<frmMain> mainWindow;
 
 /// Drops all of them, so that each test starts as the program does.
 inline void resetGlobals() {
+    mainWindow.reset(); // first: its pages look at the others
     gAppInfo.reset();
     gDbCombs.reset();
     gGridConfig.reset();

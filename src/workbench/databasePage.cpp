@@ -1,0 +1,138 @@
+// SPDX-FileCopyrightText: The Boulix developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "workbench/databasePage.h"
+
+#include "core/globals.h"
+#include "core/platform.h"
+#include "core/reports.h"
+#include "draws/dbCombs.h"
+#include "workbench/windowFrame.h"
+
+namespace boulix {
+
+namespace {
+
+enum Column { dateColumn, idColumn, firstNumberColumn, complementaryColumn = 8 };
+
+std::string cellText(std::int64_t row, int column) {
+    // The list is asked for its rows while a command is under way, too: the base can be shorter
+    // then than it was when the list was filled.
+    if (row >= gDbCombs->Count())
+        return {};
+    const dbComb &draw = gDbCombs->Item(row + 1);
+    switch (column) {
+    case dateColumn:
+        return isValidDate(draw.day()) ? shortDate(draw.day()) : std::string();
+    case idColumn:
+        return std::to_string(draw.id());
+    case complementaryColumn:
+        return std::to_string(draw.comb().compl_());
+    default:
+        return std::to_string(draw.comb().num(column - firstNumberColumn + 1));
+    }
+}
+
+/// How many draws stand before the first one whose date cannot be shown.
+std::int64_t showableDraws() {
+    std::int64_t count = 0;
+    for (const dbComb &draw : *gDbCombs) {
+        if (!isValidDate(draw.day()))
+            break;
+        ++count;
+    }
+    return count;
+}
+
+} // namespace
+
+void databasePage::init() {
+    std::vector<ReportColumn> columns = {{"Date", " 00/00/0000 ", false}};
+    for (const char *header : {"T", "1", "2", "3", "4", "5", "6", "C"})
+        columns.push_back({header, " 000 ", true});
+    lvwDBcomb.columns(std::move(columns));
+}
+
+void databasePage::fillList() {
+    const std::int64_t rows = showableDraws();
+    lvwDBcomb.rows(rows, cellText);
+    if (rows < gDbCombs->Count())
+        fail(Failure::overflow);
+}
+
+std::int32_t databasePage::getSelectedDraw() const {
+    if (!view_)
+        return 0;
+    const std::vector<std::int64_t> rows = view_->selectedRows();
+    return rows.empty() ? 0 : static_cast<std::int32_t>(rows.front());
+}
+
+void databasePage::clickRow(std::int32_t position) {
+    const dbComb &draw = gDbCombs->Item(position);
+    grdDB.editable(true);
+    grdDB.maxSelected(7);
+    grdDB.clearSelection();
+    for (int i = 1; i <= lotoComb::size; ++i)
+        grdDB.selectNumber(draw.comb().num(i));
+    grdDB.selectComplementary(draw.comb().compl_());
+    grdDB.editable(false);
+    lblDBCombDesc = "Tirage n° " + std::to_string(draw.id()) + " du " + shortDate(draw.day());
+    if (view_)
+        view_->refresh();
+}
+
+void databasePage::clickButton(int index) {
+    bool carriedThrough = false;
+    if (!runCommand([&] { carriedThrough = runButton(index); }))
+        window_.frmUpdateDBList();
+    else if (!carriedThrough)
+        return;
+    window_.showDrawCount();
+}
+
+/// True when the action was carried through.
+bool databasePage::runButton(int index) {
+    switch (index) {
+    case importDraws:
+        if (!gDbCombs->ImportFdjFile())
+            return false;
+        window_.frmUpdateDBList();
+        return true;
+    case addDraw:
+        gDbCombs->AddNewDBComb();
+        window_.frmUpdateDBList();
+        return true;
+    case modifyDraw:
+        return modifySelected();
+    case removeDraw:
+        return removeSelected();
+    case printBase:
+        gDbCombs->PrintDB();
+        return true;
+    case exportBase:
+        gDbCombs->ExportDB();
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool databasePage::modifySelected() {
+    const std::int32_t row = getSelectedDraw();
+    if (row == 0)
+        return false;
+    gDbCombs->modify(row);
+    window_.frmUpdateDBList();
+    return true;
+}
+
+bool databasePage::removeSelected() {
+    const std::int32_t row = getSelectedDraw();
+    if (row == 0)
+        return false;
+    gDbCombs->Remove(row);
+    window_.frmUpdateDBList();
+    return true;
+}
+
+} // namespace boulix

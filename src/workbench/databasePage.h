@@ -1,0 +1,69 @@
+// SPDX-FileCopyrightText: The Boulix developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "core/numberBoard.h"
+#include "core/reportList.h"
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace boulix {
+
+class windowFrame;
+
+/// What the database page asks of its screen.
+class databaseView {
+  public:
+    virtual ~databaseView() = default;
+
+    /// The selected rows of `lvwDBcomb`, counted from 1, ascending.
+    virtual std::vector<std::int64_t> selectedRows() const = 0;
+    /// Shows the label again.
+    virtual void refresh() = 0;
+};
+
+/// The page that shows the base as a list and the clicked draw on a board. The screen draws the
+/// public state and hands over the clicks.
+class databasePage {
+  public:
+    /// The buttons of `tbarDB`.
+    enum Button { importDraws = 1, addDraw, modifyDraw, removeDraw, printBase, exportBase };
+
+    explicit databasePage(windowFrame &window) : window_(window) {}
+    databasePage(const databasePage &) = delete;
+    databasePage &operator=(const databasePage &) = delete;
+
+    reportList lvwDBcomb;
+    NumberBoard grdDB;
+    std::string lblDBCombDesc;
+
+    /// Sets the columns.
+    void init();
+    /// The screen to talk to; nothing before it exists.
+    void view(databaseView *view) { view_ = view; }
+
+    /// One row for each draw, in collection order. A draw whose date cannot be shown fails with
+    /// `Failure::overflow`; the rows before it stand in the list.
+    void fillList();
+    /// The position of the first selected row, 0 when no row is selected.
+    std::int32_t getSelectedDraw() const;
+    /// A click on the row of the draw at `position`, 1 to the number of rows: the board and the
+    /// label show it.
+    void clickRow(std::int32_t position);
+    /// A click on a button of `tbarDB`. A failure ends the command and is shown, and the list
+    /// then shows what the base holds.
+    void clickButton(int index);
+
+  private:
+    bool runButton(int index);
+    bool modifySelected();
+    bool removeSelected();
+
+    windowFrame &window_;
+    databaseView *view_ = nullptr;
+};
+
+} // namespace boulix

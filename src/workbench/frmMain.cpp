@@ -1,0 +1,128 @@
+// SPDX-FileCopyrightText: The Boulix developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "workbench/frmMain.h"
+
+#include "core/appInfo.h"
+#include "core/desktop.h"
+#include "core/globals.h"
+#include "core/help.h"
+#include "core/modMain.h"
+#include "core/platform.h"
+#include "core/reports.h"
+#include "draws/dbCombs.h"
+#include "files/slotFile.h"
+
+#include <functional>
+
+namespace boulix {
+
+using modMain::logLine;
+
+namespace {
+
+/// Runs one of the main routines under the handler that closes the log, shows the failure and
+/// leaves the routine.
+void underHandler(const std::function<void()> &routine) {
+    try {
+        routine();
+    } catch (const RuntimeFailure &failure) {
+        handleUnexpected(failure);
+    }
+}
+
+} // namespace
+
+const std::array<TabText, frmMain::tabCount> frmMain::tabs = {{
+    {"Base de données", "Gestion de la base de données des tirages"},
+    {"Statistiques", "Etude statistique des tirages de la base de données"},
+    {"Analyse par tirage", "Analyse des numéros sortis pour un tirage"},
+    {"Eliminateurs", "Permet de définir les fonctions d'élimination de combinaison"},
+    {"Jeux", "Edition de jeux et gestion de ces derniers"},
+    {"Pronostiques", "Permet de configurer et de tester des méthodes de pronostiques"},
+}};
+
+frmMain::frmMain() : database(*this) {}
+
+void frmMain::load() {
+    caption = gAppInfo->fullName();
+    underHandler([this] {
+        logLine("frmMain.Load: Chargement de la fenêtre");
+        logLine("frmMain.Load: Initialisation des onglets");
+        frmInitTab();
+        logLine("frmMain.Load: Mise à jour des rapports de gain");
+        showDrawCount();
+        logLine("frmMain.Load: Fin de chargement de la fenêtre");
+    });
+}
+
+void frmMain::frmInitTab() {
+    underHandler([this] { initTabs(); });
+}
+
+void frmMain::initTabs() {
+    logLine("frmMain.frmInitTab: Mise en place des frames des onglets");
+    logLine("frmMain.frmInitTab: Dimensionnement des frames");
+    logLine("frmMain.frmInitTab: Onglet courant par défaut");
+    visiblePage_ = 0;
+    logLine("frmMain.frmInitTab: Initialisation de l'onglet de gestion de base de données");
+    database.init();
+    logLine("frmMain.frmInitTab: Initialisation de l'onglet de statistiques");
+    logLine("frmMain.frmInitTab: Initialisation de l'onglet des éliminateurs");
+    logLine("frmMain.frmInitTab: Initialisation de l'onglet des jeux");
+    logLine("frmMain.frmInitTab: Initialisation de l'onglet des statistiques par tirage");
+    logLine("frmMain.frmInitTab: Initialisation de l'onglet de pronostiques");
+    logLine("frmMain.frmInitTab: Mise à jour de la base de données des tirages");
+    frmUpdateDBList();
+}
+
+void frmMain::frmUpdateDBList() {
+    database.lvwDBcomb.clear();
+    underHandler([this] { fillDBList(); });
+}
+
+void frmMain::fillDBList() {
+    logLine("frmMain.frmUpdateDBList: Remplissage de la liste des combinaisons");
+    database.fillList();
+    logLine("frmMain.frmUpdateDBList: -> Remplissage OK");
+    const std::int32_t count = gDbCombs->Count();
+    logLine("frmMain.frmUpdateDBList: -> " + std::to_string(count) + " combinaisons");
+    logLine("frmMain.frmUpdateDBList: -> Sélection du premier item");
+    if (count > 0)
+        database.clickRow(count);
+}
+
+void frmMain::showDrawCount() {
+    StatusBar[0] = std::to_string(gDbCombs->Count()) + " combinaisons dans la base de données";
+    refresh();
+}
+
+void frmMain::clickTab(int position) {
+    const auto clicked = static_cast<std::int16_t>(position - 1);
+    if (clicked == visiblePage_)
+        return;
+    visiblePage_ = clicked;
+    refresh();
+}
+
+void frmMain::showHelp() {
+    help::Show(platform().applicationFolder() + pathSeparator + "boulix.chm", "DefaultWindow");
+}
+
+bool frmMain::queryClose() {
+    const std::string &name = gAppInfo->name();
+    const std::string question = "Etes-vous sûr de vouloir quitter " + name + "?";
+    if (!desktop().askYesNo(question, Icon::question, name))
+        return false;
+    desktop().unloadOtherWindows();
+    if (modMain::gDebug)
+        modMain::gLogFile.close();
+    return true;
+}
+
+void frmMain::refresh() const {
+    if (view_)
+        view_->refresh();
+}
+
+} // namespace boulix

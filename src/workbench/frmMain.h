@@ -1,0 +1,69 @@
+// SPDX-FileCopyrightText: The Boulix developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "workbench/databasePage.h"
+#include "workbench/windowFrame.h"
+
+#include <array>
+#include <cstdint>
+#include <string>
+
+namespace boulix {
+
+/// What the frame asks of the main window on the screen.
+class frmMainView {
+  public:
+    virtual ~frmMainView() = default;
+
+    /// Shows caption, status panels and the visible page again.
+    virtual void refresh() = 0;
+};
+
+/// A tab of the main window.
+struct TabText {
+    const char *caption;
+    const char *toolTip;
+};
+
+/// The rules of the main window: its load sequence, its pages, its status bar, how it quits. The
+/// screen draws the public state and hands over the clicks.
+class frmMain : public windowFrame {
+  public:
+    static constexpr int tabCount = 6;
+    static const std::array<TabText, tabCount> tabs;
+
+    frmMain();
+
+    std::string caption;
+    std::array<std::string, 2> StatusBar;
+    databasePage database;
+
+    void view(frmMainView *view) { view_ = view; }
+    /// The load sequence, run once before the window is shown.
+    void load();
+    /// The index of the visible page, 0 to 5.
+    std::int16_t visiblePage() const { return visiblePage_; }
+    /// A click on the tab at `position`, 1 to 6.
+    void clickTab(int position);
+    /// The entry `mnuHelp`.
+    void showHelp();
+    /// The window is about to close: asks the user. True when it may; the other windows are
+    /// gone then and the log is closed.
+    bool queryClose();
+
+    void frmUpdateDBList() override;
+    void showDrawCount() override;
+
+  private:
+    void frmInitTab();
+    void initTabs();
+    void fillDBList();
+    void refresh() const;
+
+    frmMainView *view_ = nullptr;
+    std::int16_t visiblePage_ = 0;
+};
+
+} // namespace boulix

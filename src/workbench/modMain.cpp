@@ -1,0 +1,70 @@
+// SPDX-FileCopyrightText: The Boulix developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "core/modMain.h"
+
+#include "core/appInfo.h"
+#include "core/desktop.h"
+#include "core/globals.h"
+#include "core/modMaths.h"
+#include "core/platform.h"
+#include "core/reports.h"
+#include "core/text.h"
+#include "draws/dbCombs.h"
+#include "files/slotFile.h"
+#include "workbench/frmMain.h"
+#include "workbench/startUpSteps.h"
+
+#include <filesystem>
+
+namespace boulix::modMain {
+
+namespace {
+
+constexpr const char *disclaimer =
+    "Attention!!! Ce logiciel constitue une aide au jeu mais ne saurait en aucun cas garantir les "
+    "gains. L'auteur décline toute responsabilité en cas de pertes d'argent qui auraient pu être "
+    "dues à l'utilisation de ce produit. En revanche, en cas de gros gains, pensez à lui!!!";
+
+void openLog() {
+    const std::string name = platform().applicationFolder() + pathSeparator + "boulix.log";
+    gDebug = true;
+    gLogFile = std::ofstream(std::filesystem::u8path(name), std::ios::binary | std::ios::trunc);
+}
+
+void initialise() {
+    for (const StartUpStep &step : startUpSteps()) {
+        logLine(std::string("modMain.Main: ") + step.name);
+        if (!step.eventsAfter)
+            desktop().runEvents();
+        if (step.run)
+            step.run();
+        if (step.eventsAfter)
+            desktop().runEvents();
+    }
+    logLine(std::string(crlf) + "modMain.Main: *** Initialisations terminées ***" + crlf);
+    mainWindow->load();
+    desktop().showMainWindow();
+    desktop().unloadSplash();
+}
+
+} // namespace
+
+void Main() {
+    gDebug = false;
+    if (parseCommandLine(1)[1] == "-debug")
+        openLog();
+    gAppInfo->init(disclaimer, "Marcel Quillon", "Quillon Logiciels", 2003);
+    logLine("Fichier généré par " + gAppInfo->fullName() + " le " + longDate(platform().today()));
+    gCurrentDir = platform().applicationFolder();
+    gDbCombs->dbFile().path(gCurrentDir);
+    gDbCombs->dbFile().name("tirages.dbl");
+    gAppInfo->showSplash();
+    try {
+        initialise();
+    } catch (const RuntimeFailure &failure) {
+        handleUnexpected(failure);
+    }
+}
+
+} // namespace boulix::modMain

@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: The Boulix developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "workbench/startUpSteps.h"
+
+#include "core/globals.h"
+#include "core/modMaths.h"
+#include "draws/dbCombs.h"
+
+namespace boulix::modMain {
+
+const std::vector<StartUpStep> &startUpSteps() {
+    static const std::vector<StartUpStep> steps = {
+        {"Précalcul des Cnk", modMaths::precomputeCnk},
+        {"Initialisation des types de statistique", nullptr},
+        {"Initialisation des paramètres graphiques des statistiques", nullptr},
+        {"Initialisation des types de jeu", nullptr},
+        {"Chargement des jeux réduits utilisateur", nullptr},
+        {"Initialisation des paramètres d'impression", nullptr},
+        {"Initialisation des paramètres de grille", nullptr},
+        {"Chargement en mémoire de la base de données des tirages", [] { gDbCombs->load(); }},
+        {"Chargement du fichier de rapport par défaut", nullptr},
+        {"Initialisation des éliminateurs", nullptr, true},
+        {"Initialisation des pronostiques", nullptr, true},
+    };
+    return steps;
+}
+
+} // namespace boulix::modMain
