@@ -3,7 +3,10 @@
 
 #pragma once
 
+#include "core/numberMask.h"
+
 #include <array>
+#include <bit>
 #include <cstdint>
 
 namespace boulix {
@@ -23,9 +26,15 @@ class lotoComb {
     /// Number `i`, 1 to 6; outside that range a read gives 0 and a write does nothing.
     std::int16_t num(int i) const { return i >= 1 && i <= size ? num_[at(i)] : std::int16_t{0}; }
     void num(int i, std::int16_t n) {
-        if (i >= 1 && i <= size)
+        if (i >= 1 && i <= size) {
             num_[at(i)] = n;
+            mask_ = maskOf(num_);
+        }
     }
+    /// The six numbers as a mask: those outside 1 to 49 are not in it, equal ones are one bit.
+    std::uint64_t mask() const { return mask_; }
+    /// Whether the mask says everything: six different numbers of 1 to 49.
+    bool isWhole() const { return std::popcount(mask_) == size; }
 
     lotoComb copy() const { return *this; }
     /// Orders the six numbers ascending; the complementary and the sums stay.
@@ -36,6 +45,7 @@ class lotoComb {
   private:
     static std::size_t at(int i) { return static_cast<std::size_t>(i - 1); }
 
+    std::uint64_t mask_ = 0; // follows num_: every scan of the base compares masks
     std::array<std::int16_t, size> num_{};
     std::int16_t complementary_ = 0;
     std::int16_t sum_ = 0;
