@@ -11,9 +11,11 @@ set(BOULIX_TEST_ENVIRONMENT
     "LC_ALL=C.UTF-8"
     "TZ=Europe/Paris"
     "BOULIX_TOP=${PROJECT_SOURCE_DIR}"
+    "BOULIX_PICTURES=${PROJECT_BINARY_DIR}/pictures"
     "XDG_RUNTIME_DIR=${BOULIX_TEST_HOME}/runtime"
     "XDG_CONFIG_HOME=${BOULIX_TEST_HOME}/config"
-    "UBSAN_OPTIONS=print_stacktrace=1")
+    "UBSAN_OPTIONS=print_stacktrace=1"
+    "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/cmake/lsan.supp:print_suppressions=0")
 
 # boulix_test(NAME name LABEL logic|ui|tour|printing SOURCES file... [LIBS target...]
 #             [REAL_WINDOW] [WHOLE] [TIMEOUT seconds])

@@ -32,4 +32,11 @@ std::optional<fs::path> operatorHistory() {
 
 fs::path sampleHistory() { return checkoutFolder() / "samples/historique-exemple.txt"; }
 
+fs::path picturesFolder() {
+    const char *named = std::getenv("BOULIX_PICTURES");
+    const fs::path folder = named ? fs::path(named) : checkoutFolder() / "out/tour";
+    fs::create_directories(folder);
+    return folder;
+}
+
 } // namespace boulix::testing_support

@@ -20,4 +20,8 @@ std::optional<std::filesystem::path> operatorHistory();
 /// The invented history that the project ships.
 std::filesystem::path sampleHistory();
 
+/// Where tests and the guided tour put their pictures: BOULIX_PICTURES, or out/tour/ of the
+/// checkout. The folder exists afterwards.
+std::filesystem::path picturesFolder();
+
 } // namespace boulix::testing_support
