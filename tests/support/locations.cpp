@@ -30,7 +30,9 @@ std::optional<fs::path> operatorHistory() {
     return file;
 }
 
-fs::path sampleHistory() { return checkoutFolder() / "samples/historique-exemple.txt"; }
+fs::path sampleHistory() {
+    return checkoutFolder() / "samples/historique-exemple.txt";
+}
 
 fs::path picturesFolder() {
     const char *named = std::getenv("BOULIX_PICTURES");

@@ -1,0 +1,56 @@
+// SPDX-FileCopyrightText: The Boulix developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "core/failure.h"
+#include "support/fakePlatform.h"
+#include "support/files.h"
+#include "support/scriptedDesktop.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <optional>
+#include <string>
+
+namespace boulix::testing_support {
+
+/// A program that has just been started: a scripted desktop and a settable platform stand behind
+/// the window sill, no global object is there yet, no log, no current folder.
+class FreshProgramTest : public ::testing::Test {
+  protected:
+    FreshProgramTest();
+    /// Fails the test when answers were left over or the progress window is still up.
+    ~FreshProgramTest() override;
+
+    /// The application folder of this test, empty at first, removed at its end.
+    std::string folder() const { return platform.applicationFolder(); }
+    /// The full name of `name` in that folder.
+    std::string file(const std::string &name) const { return folder() + "/" + name; }
+
+    ScriptedDesktop desktop;
+    FakePlatform platform;
+};
+
+/// The usual fixture: identity, binomial table and current folder are there, as the start-up
+/// leaves them; no data file has been looked for.
+class BoulixTest : public FreshProgramTest {
+  protected:
+    BoulixTest();
+};
+
+/// Runs `action` and gives the run-time failure it ended with, or nothing.
+std::optional<RuntimeFailure> failureOf(const std::function<void()> &action);
+/// The number of that failure, 0 where there was none.
+int failureNumber(const std::function<void()> &action);
+
+} // namespace boulix::testing_support
+
+namespace boulix {
+using testing_support::BoulixTest;
+using testing_support::failureNumber;
+using testing_support::failureOf;
+using testing_support::FreshProgramTest;
+using testing_support::NumberScript;
+using testing_support::ShownBox;
+} // namespace boulix

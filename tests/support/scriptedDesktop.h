@@ -1,0 +1,113 @@
+// SPDX-FileCopyrightText: The Boulix developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "core/desktop.h"
+#include "core/frmProgress.h"
+#include "support/numberScript.h"
+
+#include <cstdint>
+#include <deque>
+#include <functional>
+#include <iosfwd>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace boulix::testing_support {
+
+/// A message box, a yes/no question or an input box as it was shown; the last has no icon.
+struct ShownBox {
+    std::string text;
+    Icon icon = Icon::none;
+    std::string title;
+    bool operator==(const ShownBox &) const = default;
+};
+std::ostream &operator<<(std::ostream &stream, const ShownBox &box);
+
+/// The progress window over one job.
+struct ProgressRun {
+    std::vector<frmProgress> steps; ///< the window at each turn of the event queue, 100 000 at most
+    std::int64_t turns = 0;         ///< how often the queue ran meanwhile
+    frmProgress last;               ///< the window as it was unloaded
+    bool unloaded = false;
+};
+
+struct ShownHelp {
+    std::string target;
+    std::optional<std::int32_t> context;
+};
+
+/// A desktop without a screen. It writes down what it is asked to show and gives the answers
+/// that a test laid down beforehand. A question without an answer fails the test and is answered
+/// as if its window had been closed, so that nothing ever waits.
+class ScriptedDesktop : public Desktop {
+  public:
+    // What was shown, oldest first.
+    std::vector<ShownBox> messages;
+    std::vector<ShownBox> questions;
+    std::vector<ShownBox> inputs;
+    std::vector<FileQuestion> openQuestions;
+    std::vector<FileQuestion> saveQuestions;
+    std::vector<NumberShowing> numberShowings;
+    int dateShowings = 0;
+    std::vector<ProgressRun> progressRuns;
+    std::vector<SplashTexts> splashes;
+    bool splashVisible = false;
+    std::vector<ShownHelp> helpCalls;
+    std::int64_t eventTurns = 0; ///< how often the event queue ran in all
+
+    // The answers to come, each kind in its own queue.
+    void answerYes() { yesNo_.push_back(true); }
+    void answerNo() { yesNo_.push_back(false); }
+    void answerText(const std::string &text) { texts_.emplace_back(text); }
+    void cancelText() { texts_.emplace_back(std::nullopt); }
+    void answerOpen(const std::string &fullName) { openNames_.push_back(fullName); }
+    void cancelOpen() { openNames_.emplace_back(); }
+    void answerSave(const std::string &fullName) { saveNames_.push_back(fullName); }
+    void cancelSave() { saveNames_.emplace_back(); }
+    void answerNumbers(const NumberScript &script) { numbers_.push_back(script); }
+    void answerDate(DrawDate date) { dates_.push_back(date); }
+    /// The answers that nobody asked for, in words; empty when all were used.
+    std::string unusedAnswers() const;
+
+    /// Called at each turn of the event queue, after the progress window was written down.
+    std::function<void()> onEvents;
+    /// Called when a message box is up.
+    std::function<void(const ShownBox &)> onMessage;
+    /// Clicks the cancel button at the `turn`-th turn of the event queue, counted from 1, of the
+    /// next progress window.
+    void cancelProgressAt(std::int64_t turn) { cancelAt_ = turn; }
+
+    /// The progress window while it is up, otherwise nothing.
+    frmProgress *progress() { return progress_; }
+    /// Whether the main window takes clicks.
+    bool mainWindowEnabled() const { return progress_ == nullptr; }
+
+    void showMessage(const std::string &text, Icon icon, const std::string &title) override;
+    bool askYesNo(const std::string &text, Icon icon, const std::string &title) override;
+    std::optional<std::string> askText(const std::string &prompt,
+                                       const std::string &title) override;
+    std::string openFile(const FileQuestion &question) override;
+    std::string saveFile(const FileQuestion &question) override;
+    void runNumberDialog(frmNbrSelector &dialog) override;
+    DrawDate runDateDialog() override;
+    void progressLoaded(frmProgress &progress) override;
+    void progressUnloaded() override;
+    void runEvents() override;
+    void showSplash(const SplashTexts &texts) override;
+    void unloadSplash() override { splashVisible = false; }
+    void showHelp(const std::string &target, std::optional<std::int32_t> context) override;
+
+  private:
+    std::deque<bool> yesNo_;
+    std::deque<std::optional<std::string>> texts_;
+    std::deque<std::string> openNames_;
+    std::deque<std::string> saveNames_;
+    std::deque<NumberScript> numbers_;
+    std::deque<DrawDate> dates_;
+    frmProgress *progress_ = nullptr;
+    std::optional<std::int64_t> cancelAt_;
+};
+
+} // namespace boulix::testing_support
