@@ -54,6 +54,8 @@ class ScriptedDesktop : public Desktop {
     std::vector<ProgressRun> progressRuns;
     std::vector<SplashTexts> splashes;
     bool splashVisible = false;
+    bool mainWindowShown = false;
+    int otherWindowsUnloaded = 0; ///< how often all windows but the main one were closed
     std::vector<ShownHelp> helpCalls;
     std::int64_t eventTurns = 0; ///< how often the event queue ran in all
 
@@ -97,6 +99,8 @@ class ScriptedDesktop : public Desktop {
     void runEvents() override;
     void showSplash(const SplashTexts &texts) override;
     void unloadSplash() override { splashVisible = false; }
+    void showMainWindow() override { mainWindowShown = true; }
+    void unloadOtherWindows() override { ++otherWindowsUnloaded; }
     void showHelp(const std::string &target, std::optional<std::int32_t> context) override;
 
   private:
