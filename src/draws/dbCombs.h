@@ -12,6 +12,7 @@
 
 namespace boulix {
 
+class frmProgress;
 class game;
 class gameResult;
 class gameWin;
@@ -66,10 +67,12 @@ class dbCombs {
   private:
     void quickSort(std::int64_t first, std::int64_t last);
     void save();
-    bool isAscending() const;
-    bool readImport(const std::string &fileName);
-    bool removeDoubles();
+    /// Appends the draws of the operator's file; false when it was refused or cancelled.
+    bool readImport(const std::string &fileName, frmProgress &progress);
     void restoreOrder();
+    /// Strikes the draws that follow one of the same day and draw of the day; false when it was
+    /// cancelled, and the base is then to be loaded again.
+    bool removeDoubles(frmProgress &progress);
 
     std::vector<dbComb> draws_;
     xFile dbFile_;

@@ -1,0 +1,114 @@
+// SPDX-FileCopyrightText: The Boulix developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "draws/dbCombs.h"
+
+#include "core/desktop.h"
+#include "core/numbers.h"
+#include "files/slotFile.h"
+
+#include <algorithm>
+
+namespace boulix {
+
+namespace {
+
+constexpr auto fileType = static_cast<std::int32_t>(FileType::drawBase);
+constexpr std::int64_t slotLength = 128;
+constexpr std::size_t recordLength = 28;
+
+/// The six numbers, the complementary and the true sums; the stored sums are not looked at, which
+/// is what repairs those of an import.
+lotoComb combFromRecord(const std::string &record) {
+    lotoComb comb;
+    std::int64_t sum = 0;
+    for (int i = 1; i <= lotoComb::size; ++i) {
+        comb.num(i, readInt16(record, 8 + 2 * static_cast<std::size_t>(i)));
+        sum += comb.num(i);
+    }
+    comb.compl_(readInt16(record, 22));
+    comb.sum(narrow16(sum));
+    comb.sumtot(narrow16(sum + comb.compl_()));
+    return comb;
+}
+
+std::string toRecord(const dbComb &draw) {
+    std::string record;
+    record.reserve(recordLength);
+    appendDouble(record, draw.day());
+    appendInt16(record, draw.id());
+    for (int i = 1; i <= lotoComb::size; ++i)
+        appendInt16(record, draw.comb().num(i));
+    appendInt16(record, draw.comb().compl_());
+    appendInt16(record, draw.comb().sum());
+    appendInt16(record, draw.comb().sumtot());
+    return record;
+}
+
+/// A file too short for its header has none at all, so that it is refused as a foreign one.
+std::string headRecord(SlotReader &reader) {
+    if (reader.fileSize() < static_cast<std::int64_t>(fileHead::recordSize))
+        return {};
+    return reader.read(1, fileHead::recordSize);
+}
+
+/// How many draws a file of `size` bytes holds, whether it ends behind its last record or is
+/// filled out to whole slots.
+std::int32_t drawCount(std::int64_t size) {
+    const auto behindHead = size - static_cast<std::int64_t>(fileHead::recordSize);
+    return std::max(0, toInt32(static_cast<double>(behindHead) / slotLength));
+}
+
+} // namespace
+
+dbComb &dbCombs::Add(Date day, std::int16_t id, const lotoComb &comb, bool doSave,
+                     const std::string & /*key*/) {
+    draws_.emplace_back(day, id, comb);
+    if (doSave)
+        save();
+    return draws_.back();
+}
+
+const dbComb &dbCombs::Item(std::int64_t index) const {
+    return draws_[static_cast<std::size_t>(checkedIndex(index, 1, Count()) - 1)];
+}
+
+dbComb &dbCombs::Item(std::int64_t index) {
+    return draws_[static_cast<std::size_t>(checkedIndex(index, 1, Count()) - 1)];
+}
+
+void dbCombs::Remove(std::int64_t index) {
+    draws_.erase(draws_.begin() + checkedIndex(index, 1, Count()) - 1);
+    save();
+}
+
+void dbCombs::load() {
+    clear();
+    dbFile_.head().initialize(fileType);
+    if (!dbFile_.exist()) {
+        replaceFile(dbFile_.fullName(), dbFile_.head().toRecord());
+        return;
+    }
+    SlotReader reader(dbFile_.fullName(), slotLength);
+    dbFile_.head().fromRecord(headRecord(reader));
+    if (!dbFile_.verifyHead(fileType))
+        return;
+    const std::int32_t count = drawCount(reader.fileSize());
+    for (std::int32_t k = 1; k <= count; ++k) {
+        desktop().runEvents(); // the splash window stays alive
+        const std::string record = reader.read(std::int64_t{k} + 1, recordLength);
+        Add(readDouble(record, 0), readInt16(record, 8), combFromRecord(record), false, "");
+    }
+}
+
+void dbCombs::save() {
+    dbFile_.head().initialize(fileType);
+    SlotImage image(slotLength);
+    image.write(1, dbFile_.head().toRecord());
+    std::int64_t slot = 1;
+    for (const dbComb &draw : draws_)
+        image.write(++slot, toRecord(draw));
+    replaceFile(dbFile_.fullName(), image.bytes());
+}
+
+} // namespace boulix

@@ -1,0 +1,57 @@
+// SPDX-FileCopyrightText: The Boulix developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "draws/lineReader.h"
+
+#include "core/failure.h"
+
+#include <algorithm>
+#include <cerrno>
+
+namespace boulix {
+
+namespace {
+
+constexpr std::size_t blockSize = 1 << 18;
+
+bool endsLine(char c) {
+    return c == '\r' || c == '\n';
+}
+
+} // namespace
+
+LineReader::LineReader(const std::string &fullName)
+    : name_(fullName), file_(fullName, std::ios::binary), block_(blockSize) {
+    if (!file_)
+        failForFile(errno, name_);
+}
+
+bool LineReader::eof() {
+    if (at_ < filled_)
+        return false;
+    file_.read(block_.data(), static_cast<std::streamsize>(block_.size()));
+    if (file_.bad())
+        failForFile(errno, name_);
+    filled_ = static_cast<std::size_t>(file_.gcount());
+    at_ = 0;
+    return filled_ == 0;
+}
+
+void LineReader::readLine(std::string &line) {
+    line.clear();
+    while (!eof()) {
+        const char *from = block_.data() + at_;
+        const char *blockEnd = block_.data() + filled_;
+        const char *end = std::find_if(from, blockEnd, endsLine);
+        line.append(from, end);
+        at_ += static_cast<std::size_t>(end - from);
+        if (end == blockEnd)
+            continue;
+        ++at_;
+        if (!eof())
+            ++at_;
+        return;
+    }
+}
+
+} // namespace boulix
