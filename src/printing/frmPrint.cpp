@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: The Boulix developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "printing/frmPrint.h"
+
+#include "core/reports.h"
+#include "core/text.h"
+#include "printing/modPrinter.h"
+#include "printing/printerSystem.h"
+#include "printing/settingValue.h"
+
+#include <algorithm>
+
+namespace boulix {
+
+frmPrint::frmPrint()
+    : cmbPrinter(printerSystem().printers()), txtOffsetX(plainDecimal(modPrinter::offset_X)),
+      txtOffsetY(plainDecimal(modPrinter::offset_Y)), optPrintDir(modPrinter::direction),
+      cmdOKEnabled(!cmbPrinter.empty()) {
+    const auto current =
+        std::find(cmbPrinter.begin(), cmbPrinter.end(), modPrinter::currentPrinter());
+    if (current != cmbPrinter.end())
+        cmbPrinterIndex = static_cast<int>(current - cmbPrinter.begin());
+    if (!cmdOKEnabled)
+        reportNumbered(901, "Aucune imprimante est installée sur votre ordinateur!!!");
+}
+
+void frmPrint::clickOK() {
+    const float x = typedNumber(txtOffsetX);
+    const float y = typedNumber(txtOffsetY);
+    modPrinter::offset_X = x;
+    modPrinter::offset_Y = y;
+    modPrinter::direction = optPrintDir;
+    result_ = 1;
+    closed_ = true;
+}
+
+void frmPrint::clickCancel() {
+    result_ = 0;
+    closed_ = true;
+}
+
+} // namespace boulix

@@ -1,0 +1,153 @@
+// SPDX-FileCopyrightText: The Boulix developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "printing/modPrinter.h"
+
+#include "core/appInfo.h"
+#include "core/globals.h"
+#include "core/modMaths.h"
+#include "core/reports.h"
+#include "core/settings.h"
+#include "core/text.h"
+#include "printing/frmPrint.h"
+#include "printing/printerSystem.h"
+#include "printing/settingValue.h"
+
+#include <algorithm>
+
+namespace boulix::modPrinter {
+
+namespace {
+
+constexpr const char *section = "impression";
+constexpr const char *printerKey = "imprimante";
+constexpr const char *offsetXKey = "offset_X";
+constexpr const char *offsetYKey = "offset_Y";
+constexpr const char *directionKey = "Direction";
+
+constexpr std::size_t bannerWidth = 40;
+
+/// A slip's outline and the place of its text on the canvas sheet, in millimetres.
+constexpr double slipWidth = 160;
+constexpr double slipHeight = 120;
+constexpr double sheetMiddle = 105;
+
+std::string chosenPrinter; // empty: the system's default
+
+bool sameDevice(const std::string &a, const std::string &b) {
+    return upperCased(trimmed(a)) == upperCased(trimmed(b));
+}
+
+void loadDirection() {
+    std::string word = upperCased(trimmed(settingText(section, directionKey, "haut")));
+    if (!word.empty() && word.back() == '\0')
+        word.pop_back();
+    direction = directionUp;
+    const auto entry = std::find(directionTable.begin(), directionTable.end(), word);
+    if (entry != directionTable.end())
+        direction = static_cast<std::int32_t>(entry - directionTable.begin());
+    else
+        reportNumbered(2302, std::string("Erreur de syntaxe dans le fichier boulix.ini:") + crlf +
+                                 word + " valeur innatendue!!!");
+}
+
+/// How many characters `text` (UTF-8) has.
+std::size_t characterCount(const std::string &text) {
+    return toWestern(text).size();
+}
+
+} // namespace
+
+std::string currentPrinter() {
+    if (!chosenPrinter.empty())
+        return chosenPrinter;
+    const std::string standard = printerSystem().defaultPrinter();
+    if (!standard.empty())
+        return standard;
+    const auto printers = printerSystem().printers();
+    return printers.empty() ? std::string() : printers.front();
+}
+
+void currentPrinter(const std::string &deviceName) {
+    chosenPrinter = deviceName;
+}
+
+void loadSettings() {
+    const std::string saved = settingText(section, printerKey, "no_printer");
+    offset_X = settingNumber(section, offsetXKey, "0.");
+    offset_Y = settingNumber(section, offsetYKey, "0.");
+    loadDirection();
+    chosenPrinter.clear();
+    const auto printers = printerSystem().printers();
+    const auto found =
+        std::find_if(printers.begin(), printers.end(),
+                     [&saved](const std::string &name) { return sameDevice(name, saved); });
+    if (found != printers.end())
+        chosenPrinter = *found;
+}
+
+void printerDialog() {
+    frmPrint window;
+    printWindows().runPrint(window);
+    if (window.result() == 0)
+        return;
+    if (window.cmbPrinterIndex >= 0)
+        chosenPrinter = window.cmbPrinter.at(static_cast<std::size_t>(window.cmbPrinterIndex));
+    settings::write(section, printerKey, currentPrinter());
+    settings::write(section, offsetXKey, plainDecimal(offset_X));
+    settings::write(section, offsetYKey, plainDecimal(offset_Y));
+    settings::write(section, directionKey, directionTable.at(static_cast<std::size_t>(direction)));
+}
+
+std::int16_t printerCheck() {
+    if (!printerSystem().printers().empty())
+        return 0;
+    reportNumbered(2301, std::string("Impossible d'imprimer, aucune imprimante est installée sur "
+                                     "votre ordinateur!") +
+                             crlf + "ou l'imprimante est mal configurée.");
+    return -1;
+}
+
+std::unique_ptr<Paper> openDocument(const std::string &title) {
+    return printerSystem().openDocument(currentPrinter(), title);
+}
+
+void printBanner(TextReport &report) {
+    report.fontName("Arial");
+    report.fontSize(10);
+    const std::string stars(bannerWidth, '*');
+    const std::string &name = gAppInfo->name();
+    const std::size_t length = modMaths::minOf(characterCount(name), bannerWidth);
+    report.line(stars);
+    report.line(std::string((bannerWidth - length) / 2, ' ') + name);
+    report.line(stars);
+    report.line();
+}
+
+std::optional<TextReport> startReport(const std::string &title) {
+    if (printerCheck() != 0)
+        return std::nullopt;
+    TextReport report(openDocument(title));
+    printBanner(report);
+    return report;
+}
+
+void printCanvas() {
+    if (printerCheck() != 0)
+        return;
+    const auto paper = openDocument("Boulix - canevas");
+    const std::string hint = "Haut de la grille ici";
+    paper->color(black);
+    paper->penWidth(2);
+    paper->font("Arial", 10);
+    for (const CanvasSlot &slot : canvasSlots) {
+        const double x = slot.x;
+        const double y = slot.y;
+        paper->text(sheetMiddle - paper->textWidth(hint) / 2, y + 2 * paper->textHeight(hint),
+                    hint);
+        paper->box(x, y, x + slipWidth, y + slipHeight);
+    }
+    paper->endDocument();
+}
+
+} // namespace boulix::modPrinter
