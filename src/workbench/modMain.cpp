@@ -15,7 +15,6 @@
 #include "workbench/frmMain.h"
 #include "workbench/startUpSteps.h"
 
-#include <filesystem>
 
 namespace boulix::modMain {
 
@@ -29,7 +28,7 @@ constexpr const char *disclaimer =
 void openLog() {
     const std::string name = platform().applicationFolder() + pathSeparator + "boulix.log";
     gDebug = true;
-    gLogFile = std::ofstream(std::filesystem::u8path(name), std::ios::binary | std::ios::trunc);
+    gLogFile = std::ofstream(name, std::ios::binary | std::ios::trunc);
 }
 
 void initialise() {
