@@ -26,7 +26,9 @@ const sys_days firstDay = yearMonthDay({1899, 12, 30});
 } // namespace
 
 Date dateOf(CalendarDay day) {
-    const bool plausible = day.year >= 100 && day.year <= 9999 && day.month > 0 && day.day > 0;
+    // A month or day beyond a byte would be cut by the calendar type and pass for another one.
+    const bool plausible = day.year >= 100 && day.year <= 9999 && day.month >= 1 &&
+                           day.month <= 12 && day.day >= 1 && day.day <= 31;
     if (!plausible || !yearMonthDay(day).ok())
         fail(Failure::typeMismatch);
     return static_cast<Date>((sys_days(yearMonthDay(day)) - firstDay).count());

@@ -4,6 +4,8 @@
 #include "core/failure.h"
 
 #include <cerrno>
+#include <filesystem>
+#include <system_error>
 #include <utility>
 
 namespace boulix {
@@ -50,10 +52,16 @@ const char *describe(Failure failure) {
     return "Erreur inconnue";
 }
 
-Failure failureOf(int error) {
+bool folderMissing(const std::string &path) {
+    const std::filesystem::path folder = std::filesystem::path(path).parent_path();
+    std::error_code ignored;
+    return !folder.empty() && !std::filesystem::exists(folder, ignored);
+}
+
+Failure failureOf(int error, const std::string &path) {
     switch (error) {
     case ENOENT:
-        return Failure::fileNotFound;
+        return folderMissing(path) ? Failure::pathNotFound : Failure::fileNotFound;
     case ENOTDIR:
         return Failure::pathNotFound;
     case EACCES:
@@ -61,6 +69,7 @@ Failure failureOf(int error) {
     case EROFS:
         return Failure::permissionDenied;
     case EISDIR:
+    case ENAMETOOLONG:
         return Failure::pathAccess;
     case ENOSPC:
     case EDQUOT:
@@ -87,7 +96,7 @@ void fail(Failure failure, const std::string &description) {
 }
 
 void failForFile(int error, const std::string &path) {
-    const Failure failure = failureOf(error);
+    const Failure failure = failureOf(error, path);
     throw RuntimeFailure(failure, std::string(describe(failure)) + " : " + path);
 }
 

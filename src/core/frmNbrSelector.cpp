@@ -7,12 +7,11 @@
 #include "core/platform.h"
 #include "core/reports.h"
 
+#include <cstdint>
 #include <numeric>
 #include <vector>
 
 namespace boulix {
-
-frmNbrSelector::frmNbrSelector() = default;
 
 std::string frmNbrSelector::lblStatus() const {
     return std::to_string(grd.selectedCount()) + " numéros";

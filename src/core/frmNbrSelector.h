@@ -5,8 +5,6 @@
 
 #include "core/numberBoard.h"
 
-#include <cstdint>
-#include <functional>
 #include <string>
 
 namespace boulix {
@@ -15,10 +13,6 @@ namespace boulix {
 /// `lblStatus` and the four buttons, and hides the dialog once `tag` is set.
 class frmNbrSelector {
   public:
-    frmNbrSelector();
-    frmNbrSelector(const frmNbrSelector &) = delete;
-    frmNbrSelector &operator=(const frmNbrSelector &) = delete;
-
     NumberBoard grd;
 
     /// "1" after `cmdOK`, "-1" after `cmdCancel`, empty while the dialog is on the screen.

@@ -7,6 +7,7 @@
 #include "core/numbers.h"
 
 #include <algorithm>
+#include <iterator>
 #include <limits>
 #include <numeric>
 
@@ -52,7 +53,10 @@ std::int32_t factorial(std::int16_t n) {
 
 void sortIndex(const std::vector<std::int32_t> &keys, std::vector<std::int32_t> &index,
                std::int32_t n) {
-    const auto last = index.begin() + 1 + n;
+    if (n < 1)
+        return;
+    checkedIndex(n, 1, std::ssize(keys) - 1);
+    const auto last = index.begin() + 1 + checkedIndex(n, 1, std::ssize(index) - 1);
     std::iota(index.begin() + 1, last, 1);
     std::stable_sort(index.begin() + 1, last, [&keys](std::int32_t a, std::int32_t b) {
         return keys[static_cast<std::size_t>(a)] < keys[static_cast<std::size_t>(b)];
@@ -60,7 +64,9 @@ void sortIndex(const std::vector<std::int32_t> &keys, std::vector<std::int32_t> 
 }
 
 void sortIntegers(std::vector<std::int16_t> &values, std::int32_t n) {
-    std::sort(values.begin() + 1, values.begin() + 1 + n);
+    if (n < 1)
+        return;
+    std::sort(values.begin() + 1, values.begin() + 1 + checkedIndex(n, 1, std::ssize(values) - 1));
 }
 
 } // namespace boulix::modMaths

@@ -49,11 +49,12 @@ std::int32_t combRank(const gameComb &comb, std::int16_t k);
 gameComb combFromRank(std::int32_t rank, std::int16_t k);
 
 /// Fills `index` with 1 to `n` in ascending order of `keys`; equal keys keep their order. Both
-/// arrays are used from index 1.
+/// arrays are used from index 1; an array without element `n` fails with
+/// `Failure::subscriptOutOfRange`.
 void sortIndex(const std::vector<std::int32_t> &keys, std::vector<std::int32_t> &index,
                std::int32_t n);
 
-/// Sorts `values`, used from index 1 to `n`, ascending.
+/// Sorts `values`, used from index 1 to `n`, ascending; fails as above.
 void sortIntegers(std::vector<std::int16_t> &values, std::int32_t n);
 
 } // namespace modMaths

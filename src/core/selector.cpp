@@ -10,6 +10,7 @@
 #include "core/reports.h"
 #include "core/text.h"
 
+#include <iterator>
 #include <string>
 
 namespace boulix {
@@ -39,13 +40,11 @@ void reportTooFew(std::int16_t minimum) {
 } // namespace
 
 std::int16_t selector::selectedNbr(std::int16_t i) const {
-    const bool inside =
-        i >= 1 && i <= nSelectedNbr_ && static_cast<std::size_t>(i) <= selected_.size();
-    if (!inside) {
+    if (i < 1 || i > nSelectedNbr_) {
         reportOutside(i, nSelectedNbr_);
         return 0;
     }
-    return selected_[static_cast<std::size_t>(i - 1)];
+    return numberAt(i);
 }
 
 void selector::setSelect(std::int16_t nMax, std::int16_t nMin) {
@@ -56,7 +55,13 @@ void selector::setSelect(std::int16_t nMax, std::int16_t nMin) {
 void selector::setPrevSelect(std::int16_t n, const std::vector<std::int16_t> &numbers) {
     nPrevSelected_ = n;
     if (n > 0)
-        selected_.assign(numbers.begin(), numbers.begin() + n);
+        selected_.assign(numbers.begin(),
+                         numbers.begin() + checkedIndex(n, 1, std::ssize(numbers)));
+}
+
+/// The `i`-th number held, whatever `nSelectedNbr` says.
+std::int16_t selector::numberAt(std::int16_t i) const {
+    return selected_[static_cast<std::size_t>(checkedIndex(i, 1, std::ssize(selected_)) - 1)];
 }
 
 void selector::selectNbr() {
@@ -66,8 +71,8 @@ void selector::selectNbr() {
     dialog.grd.maxSelected(nSelectedNbr_);
     const std::int16_t preset =
         nSelectedNbr_ != 0 ? modMaths::minOf(nSelectedNbr_, nPrevSelected_) : nPrevSelected_;
-    for (std::int16_t i = 0; i < preset; ++i)
-        dialog.grd.selectNumber(selected_[static_cast<std::size_t>(i)]);
+    for (std::int16_t i = 1; i <= preset; ++i)
+        dialog.grd.selectNumber(numberAt(i));
 
     while (true) {
         dialog.shown();

@@ -23,12 +23,14 @@ class selector {
 
     void setSelect(std::int16_t nMax, std::int16_t nMin);
     /// The numbers that are marked when the dialog opens: the first `n` of `numbers`, counted
-    /// from element 0.
+    /// from element 0; fewer than `n` fail with `Failure::subscriptOutOfRange`.
     void setPrevSelect(std::int16_t n, const std::vector<std::int16_t> &numbers);
     /// Shows the dialog until it is cancelled or enough numbers are marked.
     void selectNbr();
 
   private:
+    std::int16_t numberAt(std::int16_t i) const;
+
     std::vector<std::int16_t> selected_;
     std::int16_t nSelectedNbr_ = 0;
     std::int16_t nMinSelectedNbr_ = 0;

@@ -8,13 +8,14 @@
 namespace boulix::settings {
 
 /// The value of `key` in `section` of boulix.ini in the application folder, trimmed;
-/// `defaultValue` where key, section or file is missing. Names are compared without regard to
-/// case. The file is read anew at each call.
+/// `defaultValue` where key, section or file is missing or the file cannot be read. Names are
+/// compared without regard to case, one pair of quotes around the value is taken off, and no more
+/// than 1023 characters are given. The file is read anew at each call.
 std::string read(const std::string &section, const std::string &key,
                  const std::string &defaultValue);
 
 /// Writes one value and leaves every other line of the file as it is: comments, unknown keys,
-/// blanks, line ends. Section, key and file are made when missing. A file that cannot be
+/// blanks, line ends. Section, key and file are made when missing. A file that cannot be read or
 /// written is a run-time failure.
 void write(const std::string &section, const std::string &key, const std::string &value);
 

@@ -19,6 +19,13 @@ constexpr std::array<char32_t, 32> westernHigh = {
     noCharacter, 0x2018,      0x2019, 0x201C, 0x201D, 0x2022,      0x2013, 0x2014,
     0x02DC,      0x2122,      0x0161, 0x203A, 0x0153, noCharacter, 0x017E, 0x0178};
 
+/// Whether `point` is a character that really takes `length` bytes.
+bool isCodePoint(char32_t point, std::size_t length) {
+    constexpr std::array<char32_t, 5> smallest = {0, 0, 0x80, 0x800, 0x10000};
+    const bool surrogate = point >= 0xD800 && point <= 0xDFFF;
+    return point >= smallest[length] && point <= 0x10FFFF && !surrogate;
+}
+
 /// Takes one code point off the front of `text`; a broken byte gives `noCharacter`.
 char32_t nextCodePoint(std::string_view &text) {
     const auto byteAt = [&text](std::size_t i) { return static_cast<unsigned char>(text[i]); };
@@ -42,7 +49,7 @@ char32_t nextCodePoint(std::string_view &text) {
         whole = (byteAt(i) & 0xC0U) == 0x80U;
         point = (point << 6) | (byteAt(i) & 0x3FU);
     }
-    if (!whole) {
+    if (!whole || !isCodePoint(point, length)) {
         text.remove_prefix(1);
         return noCharacter;
     }
@@ -81,9 +88,9 @@ char westernByte(char32_t point) {
 char32_t upperCodePoint(char32_t point) {
     if ((point >= 'a' && point <= 'z') || (point >= 0xE0 && point <= 0xFE && point != 0xF7))
         return point - 0x20;
-    if (point == 0x0153)
-        return 0x0152;
-    if (point == 0xFF)
+    if (point == 0x0153 || point == 0x0161 || point == 0x017E) // oe, s and z with caron
+        return point - 1;
+    if (point == 0xFF) // y with diaeresis
         return 0x0178;
     return point;
 }

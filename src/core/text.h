@@ -16,7 +16,7 @@ inline constexpr const char *crlf = "\r\n";
 /// `text` without the blanks at its two ends. Only the blank counts, no other white space.
 std::string trimmed(std::string_view text);
 
-/// `text` in capitals, the accented letters of French included (UTF-8).
+/// `text` in capitals, the accented letters of code page 1252 included (UTF-8).
 std::string upperCased(std::string_view text);
 
 /// The pieces of `text` between the separators: an empty text gives one empty piece, a separator

@@ -6,8 +6,11 @@
 #include <cstdint>
 #include <iosfwd>
 #include <string>
+#include <string_view>
 
 namespace boulix {
+
+class SlotReader;
 
 /// The kinds of data files, by the number in their header.
 enum class FileType : std::int32_t {
@@ -49,8 +52,10 @@ class fileHead {
 
     /// The record form, 86 bytes.
     std::string toRecord() const;
-    /// Reads the record form; a record that is too short reads as if blanks and zeros followed.
-    void fromRecord(const std::string &bytes);
+    /// Reads the record form; a record that is too short reads as a blank header of type 0.
+    void fromRecord(std::string_view bytes);
+    /// Reads the record form from slot 1; a file too short for it reads as a blank header.
+    void loadRecord(SlotReader &file);
     /// Takes the values of a record form; the texts are cut or filled to their widths and the
     /// record length follows the type.
     void convert(const std::string &software, const std::string &version, std::int16_t typ,
@@ -63,7 +68,8 @@ class fileHead {
     void loadBinary(std::istream &file);
 
   private:
-    bool parseText(std::string text);
+    void parseText(std::string text);
+    void takeText(std::size_t key, const std::string &value);
     void fileLenFromType();
 
     std::string software_ = std::string(32, ' ');

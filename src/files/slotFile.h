@@ -3,25 +3,20 @@
 
 #pragma once
 
+#include "core/fileAccess.h"
+
 #include <cstdint>
-#include <fstream>
 #include <string>
+#include <string_view>
 
 namespace boulix {
 
-/// The separator of folders on this platform.
-#ifdef _WIN32
-inline constexpr char pathSeparator = '\\';
-#else
-inline constexpr char pathSeparator = '/';
-#endif
-
 /// Reads and writes integers and reals of a record, little-endian, at a byte offset. Reading
 /// behind the end gives zero bytes.
-std::int16_t readInt16(const std::string &bytes, std::size_t offset);
-std::int32_t readInt32(const std::string &bytes, std::size_t offset);
-float readFloat(const std::string &bytes, std::size_t offset);
-double readDouble(const std::string &bytes, std::size_t offset);
+std::int16_t readInt16(std::string_view bytes, std::size_t offset);
+std::int32_t readInt32(std::string_view bytes, std::size_t offset);
+float readFloat(std::string_view bytes, std::size_t offset);
+double readDouble(std::string_view bytes, std::size_t offset);
 void appendInt16(std::string &bytes, std::int16_t value);
 void appendInt32(std::string &bytes, std::int32_t value);
 void appendFloat(std::string &bytes, float value);
@@ -41,11 +36,14 @@ class SlotReader {
     std::string read(std::int64_t slot, std::size_t length);
 
   private:
+    void fillBuffer(std::int64_t offset, std::size_t wanted);
+
     std::string name_;
-    std::ifstream file_;
+    FileHandle file_;
     std::int64_t slotLength_;
-    std::int64_t size_ = 0;
-    std::int64_t position_ = 0;
+    std::int64_t size_;
+    std::int64_t bufferStart_ = 0; // where in the file the buffer begins
+    std::string buffer_;
 };
 
 /// The image of a file of fixed slots, built in memory so that the time in which the old file is
@@ -55,8 +53,8 @@ class SlotImage {
     explicit SlotImage(std::int64_t slotLength) : slotLength_(slotLength) {}
 
     /// Puts `bytes` at the start of slot `slot`, at or behind the last one written; what lies
-    /// between is filled with zeros.
-    void write(std::int64_t slot, const std::string &bytes);
+    /// between is filled with zeros. Any other slot fails with `Failure::invalidCall`.
+    void write(std::int64_t slot, std::string_view bytes);
     const std::string &bytes() const { return bytes_; }
 
   private:
@@ -64,9 +62,21 @@ class SlotImage {
     std::int64_t slotLength_;
 };
 
-/// Deletes the file `fullName` if it is there, then writes `bytes` as the new one. Every step is
-/// checked, the last flush included; what cannot be done is a run-time failure that names the
-/// file.
-void replaceFile(const std::string &fullName, const std::string &bytes);
+/// A file of fixed slots written as it goes, for what is too long to be built in memory first.
+class SlotWriter {
+  public:
+    /// Deletes the earlier file and begins the new one.
+    SlotWriter(const std::string &fullName, std::int64_t slotLength);
+
+    /// As `SlotImage::write`.
+    void write(std::int64_t slot, std::string_view bytes);
+    /// Ends the file; without it the last bytes may be missing, and nobody is told.
+    void close() { file_.close(); }
+
+  private:
+    FileWriter file_;
+    std::int64_t slotLength_;
+    std::int64_t size_ = 0;
+};
 
 } // namespace boulix

@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: The Boulix developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "files/modFileSelector.h"
+
+#include "core/desktop.h"
+#include "core/modMain.h"
+#include "files/xFile.h"
+
+namespace boulix::modFileSelector {
+
+namespace {
+
+/// Keeps the folder of `fullName` for the next dialog; an empty name means that none was chosen.
+std::string remembered(const std::string &fullName) {
+    if (!fullName.empty()) {
+        xFile file;
+        file.fullName(fullName);
+        modMain::gCurrentDir = file.path();
+    }
+    return fullName;
+}
+
+} // namespace
+
+std::string openDialog(const std::string &filter, const std::string &title) {
+    return remembered(desktop().openFile({filter, title, modMain::gCurrentDir}));
+}
+
+std::string saveDialog(const std::string &filter, const std::string &title) {
+    return remembered(desktop().saveFile({filter, title, modMain::gCurrentDir}));
+}
+
+bool mayReplace(const xFile &file, const std::string &boxTitle) {
+    return !file.exist() ||
+           desktop().askYesNo("Le fichier " + file.name() +
+                                  " existe déjà. Etes-vous sûr de vouloir le remplacer?",
+                              Icon::question, boxTitle);
+}
+
+} // namespace boulix::modFileSelector
