@@ -15,7 +15,6 @@
 #include "workbench/frmMain.h"
 #include "workbench/startUpSteps.h"
 
-
 namespace boulix::modMain {
 
 namespace {
