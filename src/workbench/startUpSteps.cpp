@@ -6,6 +6,7 @@
 #include "core/globals.h"
 #include "core/modMaths.h"
 #include "draws/dbCombs.h"
+#include "winnings/rapport.h"
 
 namespace boulix::modMain {
 
@@ -19,7 +20,7 @@ const std::vector<StartUpStep> &startUpSteps() {
         {"Initialisation des paramètres d'impression", nullptr},
         {"Initialisation des paramètres de grille", nullptr},
         {"Chargement en mémoire de la base de données des tirages", [] { gDbCombs->load(); }},
-        {"Chargement du fichier de rapport par défaut", nullptr},
+        {"Chargement du fichier de rapport par défaut", [] { gRapport->loadDefFile(); }},
         {"Initialisation des éliminateurs", nullptr, true},
         {"Initialisation des pronostiques", nullptr, true},
     };
