@@ -47,7 +47,10 @@ class dbCombs {
     /// Lets the user change the draw at `index`, then sorts and saves, also after a cancel.
     void modify(std::int32_t index);
 
+    /// Prints all draws, three to a line; nothing after the message when there is no printer.
     void PrintDB();
+    /// Asks for a file and writes all draws into it as text. A file that is there is replaced
+    /// without a question; one that cannot be written is a run-time failure.
     void ExportDB();
 
     /// Removes all draws, in memory only.

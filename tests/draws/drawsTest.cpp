@@ -68,8 +68,9 @@ lotoComb combOf(const std::array<int, 7> &numbers) {
 }
 
 std::string rowOf(const dbComb &draw) {
-    std::string row = (isValidDate(draw.day()) ? longDate(draw.day()) : std::to_string(draw.day())) +
-                      " (" + std::to_string(draw.id()) + ")";
+    std::string row =
+        (isValidDate(draw.day()) ? longDate(draw.day()) : std::to_string(draw.day())) + " (" +
+        std::to_string(draw.id()) + ")";
     for (int i = 1; i <= lotoComb::size; ++i)
         row += " " + std::to_string(draw.comb().num(i));
     return row + " + " + std::to_string(draw.comb().compl_()) + " = " +

@@ -39,7 +39,8 @@ class DrawsTest : public BoulixTest {
     /// Imports a file with these bytes. What `ImportFdjFile` answers.
     bool importBytes(const std::string &bytes);
     /// Imports `header` and `lines`, each ended by CR LF.
-    bool importLines(const std::vector<std::string> &lines, const std::string &header = plainHeader);
+    bool importLines(const std::vector<std::string> &lines,
+                     const std::string &header = plainHeader);
 
     static constexpr const char *plainHeader =
         "BOULE1;BOULE2;BOULE3;BOULE4;BOULE5;BOULE6;BOULE_COMPLEMENTAIRE;DATE_DE_TIRAGE;"

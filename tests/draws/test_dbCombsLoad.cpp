@@ -122,9 +122,8 @@ TEST_F(DrawBaseLoad, RefusesAFileOfAnotherType) {
 }
 
 TEST_F(DrawBaseLoad, RefusesAFileOfALaterMajorVersion) {
-    expectRefused(
-        drawsFile(twoDraws, {.version = "5.0.0"}),
-        refusal(4403, "Le fichier ne peut être lu qu'à partir de la version 5!"));
+    expectRefused(drawsFile(twoDraws, {.version = "5.0.0"}),
+                  refusal(4403, "Le fichier ne peut être lu qu'à partir de la version 5!"));
 }
 
 TEST_F(DrawBaseLoad, AcceptsEveryEarlierOrEqualMajorVersion) {
@@ -151,8 +150,8 @@ std::vector<std::string> rowsOfCutFile(std::string bytes) {
     const auto draws = static_cast<std::size_t>(std::max(0.0, std::nearbyint(slots)));
     bytes.resize(128 * (draws + 1), '\0');
     const auto int16At = [&bytes](std::size_t at) {
-        const int value = static_cast<unsigned char>(bytes[at]) +
-                          256 * static_cast<unsigned char>(bytes[at + 1]);
+        const int value =
+            static_cast<unsigned char>(bytes[at]) + 256 * static_cast<unsigned char>(bytes[at + 1]);
         return value < 32768 ? value : value - 65536;
     };
     std::vector<std::string> rows;
@@ -194,7 +193,7 @@ TEST_F(DrawBaseLoad, CountsHalfASlotToTheEvenNumberOfDraws) {
     struct {
         std::size_t length;
         int draws;
-    } const table[] = {{86, 0}, {128, 0}, {150, 0}, {151, 1}, {156, 1}, {277, 1},
+    } const table[] = {{86, 0},  {128, 0}, {150, 0}, {151, 1}, {156, 1}, {277, 1},
                        {278, 2}, {284, 2}, {405, 2}, {406, 2}, {407, 3}};
     std::string whole = drawsFile(std::vector<DrawOf>(4, twoDraws[0]));
     for (const auto &row : table) {

@@ -127,7 +127,8 @@ TEST_F(DrawSort, AgreesWithThePlainSortOnRandomDrawsWithDoubles) {
     std::mt19937 random(1976);
     for (int round = 0; round < 3000; ++round) {
         const int count = std::uniform_int_distribution<int>(1, 60)(random);
-        std::uniform_int_distribution<int> day(1, std::uniform_int_distribution<int>(1, 80)(random));
+        std::uniform_int_distribution<int> day(1,
+                                               std::uniform_int_distribution<int>(1, 80)(random));
         std::uniform_int_distribution<int> id(1, 2);
         const auto keys = keysOf(count, [&](int) {
             return Key{static_cast<double>(day(random)), id(random), 0};
@@ -138,12 +139,14 @@ TEST_F(DrawSort, AgreesWithThePlainSortOnRandomDrawsWithDoubles) {
 
 TEST_F(DrawSort, AgreesWithThePlainSortOnDaysThatAreNoNumbersOrNotWhole) {
     std::mt19937 random(2008);
-    const double days[] = {noNumber, 1, 1.5, 2, -1.25, 3, 1e300,
-                           std::numeric_limits<double>::max()};
+    const double days[] = {noNumber, 1, 1.5,   2,
+                           -1.25,    3, 1e300, std::numeric_limits<double>::max()};
     std::uniform_int_distribution<std::size_t> pick(0, std::size(days) - 1);
     for (int round = 0; round < 3000; ++round) {
         const int count = std::uniform_int_distribution<int>(1, 40)(random);
-        const auto keys = keysOf(count, [&](int i) { return Key{days[pick(random)], i % 2 + 1, 0}; });
+        const auto keys = keysOf(count, [&](int i) {
+            return Key{days[pick(random)], i % 2 + 1, 0};
+        });
         ASSERT_EQ(sortedMarks(keys), marksOf(plainlySorted(keys))) << "round " << round;
     }
 }
@@ -161,8 +164,7 @@ const std::vector<std::pair<const char *, std::function<double(int, int)>>> shap
 TEST_F(DrawSort, AgreesWithThePlainSortOnBasesOfEveryShape) {
     for (const auto &[name, shape] : shapes)
         for (const int count : {2, 3, 10, 101, 4858}) {
-            const auto keys =
-                keysOf(count, [&](int i) { return Key{shape(i, count), 1, 0}; });
+            const auto keys = keysOf(count, [&](int i) { return Key{shape(i, count), 1, 0}; });
             ASSERT_EQ(sortedMarks(keys), marksOf(plainlySorted(keys))) << name << " " << count;
         }
 }
@@ -180,8 +182,9 @@ TEST_F(DrawSort, OrdersAnyBaseWithoutDoubles) {
 TEST_F(DrawSort, NeverLosesADraw) {
     std::mt19937 random(6);
     std::uniform_int_distribution<int> day(1, 20);
-    const auto keys =
-        keysOf(5000, [&](int) { return Key{static_cast<double>(day(random)), 1, 0}; });
+    const auto keys = keysOf(5000, [&](int) {
+        return Key{static_cast<double>(day(random)), 1, 0};
+    });
     std::vector<int> marks = sortedMarks(keys);
     std::sort(marks.begin(), marks.end());
     EXPECT_EQ(marks, marksOf(keys));
