@@ -4,10 +4,12 @@
 #include "draws/dbCombs.h"
 
 #include "core/desktop.h"
+#include "core/fileAccess.h"
 #include "core/numbers.h"
 #include "files/slotFile.h"
 
 #include <algorithm>
+#include <string_view>
 
 namespace boulix {
 
@@ -19,7 +21,7 @@ constexpr std::size_t recordLength = 28;
 
 /// The six numbers, the complementary and the true sums; the stored sums are not looked at, which
 /// is what repairs those of an import.
-lotoComb combFromRecord(const std::string &record) {
+lotoComb combFromRecord(std::string_view record) {
     lotoComb comb;
     std::int64_t sum = 0;
     for (int i = 1; i <= lotoComb::size; ++i) {
@@ -43,13 +45,6 @@ std::string toRecord(const dbComb &draw) {
     appendInt16(record, draw.comb().sum());
     appendInt16(record, draw.comb().sumtot());
     return record;
-}
-
-/// A file too short for its header has none at all, so that it is refused as a foreign one.
-std::string headRecord(SlotReader &reader) {
-    if (reader.fileSize() < static_cast<std::int64_t>(fileHead::recordSize))
-        return {};
-    return reader.read(1, fileHead::recordSize);
 }
 
 /// How many draws a file of `size` bytes holds, whether it ends behind its last record or is
@@ -90,7 +85,7 @@ void dbCombs::load() {
         return;
     }
     SlotReader reader(dbFile_.fullName(), slotLength);
-    dbFile_.head().fromRecord(headRecord(reader));
+    dbFile_.head().loadRecord(reader);
     if (!dbFile_.verifyHead(fileType))
         return;
     const std::int32_t count = drawCount(reader.fileSize());

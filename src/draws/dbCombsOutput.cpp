@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: The Boulix developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include "core/fileAccess.h"
 #include "core/platform.h"
 #include "core/text.h"
 #include "draws/dbCombs.h"
 #include "files/modFileSelector.h"
-#include "files/slotFile.h"
 #include "printing/modPrinter.h"
 
 #include <algorithm>

@@ -12,7 +12,7 @@ namespace boulix {
 
 namespace {
 
-constexpr std::size_t blockSize = 1 << 18;
+constexpr std::size_t blockSize = 1U << 16U;
 
 bool endsLine(char c) {
     return c == '\r' || c == '\n';
@@ -21,19 +21,17 @@ bool endsLine(char c) {
 } // namespace
 
 LineReader::LineReader(const std::string &fullName)
-    : name_(fullName), file_(fullName, std::ios::binary), block_(blockSize) {
-    if (!file_)
-        failForFile(errno, name_);
+    : name_(fullName), file_(openForReading(fullName)), block_(blockSize) {
+    std::setvbuf(file_.get(), nullptr, _IONBF, 0); // it has a buffer of its own
 }
 
 bool LineReader::eof() {
     if (at_ < filled_)
         return false;
-    file_.read(block_.data(), static_cast<std::streamsize>(block_.size()));
-    if (file_.bad())
-        failForFile(errno, name_);
-    filled_ = static_cast<std::size_t>(file_.gcount());
+    filled_ = std::fread(block_.data(), 1, block_.size(), file_.get());
     at_ = 0;
+    if (std::ferror(file_.get()))
+        failForFile(errno, name_);
     return filled_ == 0;
 }
 

@@ -3,7 +3,8 @@
 
 #pragma once
 
-#include <fstream>
+#include "core/fileAccess.h"
+
 #include <string>
 #include <vector>
 
@@ -25,7 +26,7 @@ class LineReader {
 
   private:
     std::string name_;
-    std::ifstream file_;
+    FileHandle file_;
     std::vector<char> block_;
     std::size_t filled_ = 0;
     std::size_t at_ = 0;

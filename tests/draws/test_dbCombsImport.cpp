@@ -5,7 +5,11 @@
 
 #include "core/modMain.h"
 
+#include <algorithm>
+#include <cmath>
 #include <gtest/gtest.h>
+#include <limits>
+#include <random>
 
 namespace boulix {
 namespace {
@@ -177,6 +181,26 @@ TEST_F(Import, RestoresTheOrderThatTheSortLeftAndSaysSo) {
         days.push_back(draw.day());
     EXPECT_EQ(days, (std::vector<double>{1, 2, 3, 4}));
     EXPECT_EQ(log(), "dbCombs.ImportFdjFile: ordre r\xE9tabli apr\xE8s le tri\r\n");
+}
+
+TEST_F(Import, OrdersFilesOfAnyOrderWithAndWithoutDoubles) {
+    std::mt19937 random(7);
+    std::uniform_int_distribution<int> pick(0, 200);
+    std::vector<std::string> lines;
+    for (int day = 10; day <= 28; ++day)
+        for (const char *id : {"1", "2"})
+            lines.push_back("1;2;3;4;5;6;7;200301" + std::to_string(day) + ";" + id);
+    const auto count = static_cast<int>(lines.size());
+    for (int round = 0; round < 200; ++round) {
+        std::shuffle(lines.begin(), lines.end(), random);
+        std::vector<std::string> file = lines;
+        file.insert(file.end(), lines.begin(), lines.begin() + pick(random) % count);
+        EXPECT_TRUE(importLines(file));
+        ASSERT_EQ(gDbCombs->Count(), count);
+        for (int i = 2; i <= count; ++i)
+            ASSERT_TRUE(gDbCombs->Item(i).isGreater(gDbCombs->Item(i - 1))) << i;
+        gDbCombs->clear();
+    }
 }
 
 TEST_F(Import, SaysNothingOfTheOrderWhereTheSortSufficed) {

@@ -101,9 +101,9 @@ TEST_F(BadImport, ABinaryFileIsNotRecognised) {
     expectNotRecognised(bytes);
 }
 
-TEST_F(BadImport, AFileOfOneLineOfTenMegabytesAndAnotherIsNotRecognised) {
+TEST_F(BadImport, AHeaderOfTenMegabytesIsNotRecognised) {
     expectNotRecognised(std::string(10'000'000, 'x') + "\r\n" + goodLine);
-    expectNotRecognised(std::string(10'000'000, ';') + "\r\n" + goodLine);
+    expectNotRecognised(std::string(1'000'000, ';') + "\r\n" + goodLine);
 }
 
 TEST_F(BadImport, ALineOfTenMegabytesIsReadLikeAnyOther) {

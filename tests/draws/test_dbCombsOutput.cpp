@@ -104,8 +104,8 @@ class DrawPrinting : public DrawsTest {
     /// The banner and the title, then `lines`.
     static std::vector<std::string> report(const std::vector<std::string> &lines) {
         const std::string stars(40, '*');
-        std::vector<std::string> all = {stars, std::string(17, ' ') + "boulix", stars,
-                                        "Base de données imprimée le 15/11/2026"};
+        std::vector<std::string> all = {stars, std::string(17, ' ') + "boulix",          stars,
+                                        "",    "Base de données imprimée le 15/11/2026", ""};
         all.insert(all.end(), lines.begin(), lines.end());
         return all;
     }
@@ -146,7 +146,7 @@ TEST_F(DrawPrinting, NumbersDrawsOnFourDigitsAndMore) {
     for (int i = 0; i < 10'000; ++i)
         add(draws[0]);
     const std::vector<std::string> lines = printedLines();
-    EXPECT_EQ(lines[4 + 411].substr(0, 6), "1234) ");
+    EXPECT_EQ(lines[report({}).size() + 411].substr(0, 6), "1234) ");
     EXPECT_EQ(lines.back(), "10000) 11/01/2003 - (1) 02 03 05 07 11 13 (17)");
 }
 
@@ -154,9 +154,8 @@ TEST_F(DrawPrinting, SetsTheDrawsInAFontOfEightPoints) {
     add(draws[0]);
     printedLines();
     const auto texts = printers.onlyDocument().ofKind(testing_support::Drawn::text);
-    ASSERT_EQ(texts.size(), 5U);
-    EXPECT_EQ(texts[3].points, 10);
-    EXPECT_EQ(texts[4].points, 8);
+    for (const auto &text : texts)
+        EXPECT_EQ(text.points, text.words.substr(0, 4) == "0001" ? 8 : 10) << text.words;
 }
 
 TEST_F(DrawPrinting, WithoutAPrinterPrintsNothing) {

@@ -169,16 +169,6 @@ TEST_F(DrawSort, AgreesWithThePlainSortOnBasesOfEveryShape) {
         }
 }
 
-TEST_F(DrawSort, OrdersAnyBaseWithoutDoubles) {
-    std::mt19937 random(5);
-    for (int round = 0; round < 300; ++round) {
-        std::vector<Key> keys = keysOf(200, [](int i) { return Key{i / 2 + 1.0, i % 2 + 1, 0}; });
-        std::vector<int> expected = marksOf(keys);
-        std::shuffle(keys.begin(), keys.end(), random);
-        ASSERT_EQ(sortedMarks(keys), expected);
-    }
-}
-
 TEST_F(DrawSort, NeverLosesADraw) {
     std::mt19937 random(6);
     std::uniform_int_distribution<int> day(1, 20);

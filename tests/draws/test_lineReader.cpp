@@ -90,7 +90,7 @@ TEST_F(LineReading, GivesAnEmptyLineAtTheEndOfTheFile) {
 
 TEST_F(LineReading, FindsLineEndsAnywhereInALongFile) {
     // The two characters of a line end fall apart where a block of the reader ends.
-    for (const std::size_t before : {262142U, 262143U, 262144U, 262145U, 524287U}) {
+    for (const std::size_t before : {65534U, 65535U, 65536U, 65537U, 131071U, 262143U}) {
         const std::string bytes = std::string(before, 'x') + "\r\nyz\r\n";
         EXPECT_EQ(linesOf(bytes), plainLinesOf(bytes)) << before;
     }
