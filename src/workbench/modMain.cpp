@@ -5,15 +5,17 @@
 
 #include "core/appInfo.h"
 #include "core/desktop.h"
+#include "core/fileAccess.h"
 #include "core/globals.h"
 #include "core/modMaths.h"
 #include "core/platform.h"
 #include "core/reports.h"
 #include "core/text.h"
 #include "draws/dbCombs.h"
-#include "files/slotFile.h"
 #include "workbench/frmMain.h"
 #include "workbench/startUpSteps.h"
+
+#include <cerrno>
 
 namespace boulix::modMain {
 
@@ -28,6 +30,8 @@ void openLog() {
     const std::string name = platform().applicationFolder() + pathSeparator + "boulix.log";
     gDebug = true;
     gLogFile = std::ofstream(name, std::ios::binary | std::ios::trunc);
+    if (!gLogFile)
+        failForFile(errno, name);
 }
 
 void initialise() {

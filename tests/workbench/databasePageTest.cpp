@@ -1,0 +1,195 @@
+// SPDX-FileCopyrightText: The Boulix developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The database page: its list, its board, its six buttons.
+
+#include "workbench/databasePage.h"
+#include "core/globals.h"
+#include "draws/dbCombs.h"
+#include "support/boulixTest.h"
+#include "workbench/frmMain.h"
+
+#include <string>
+#include <vector>
+
+namespace boulix {
+namespace {
+
+using testing_support::markedNumbers;
+
+class DatabasePage : public BoulixTest, protected databaseView {
+  protected:
+    DatabasePage() : page(mainWindow->database) {
+        gDbCombs->dbFile().path(folder());
+        gDbCombs->dbFile().name("tirages.dbl");
+        page.view(this);
+    }
+    std::vector<std::int64_t> selectedRows() const override { return selected; }
+    void refresh() override {}
+
+    /// The base and the window as after a start with these draws in the file.
+    void startWith(const std::vector<dbComb> &draws) {
+        for (const dbComb &draw : draws)
+            gDbCombs->Add(draw.day(), draw.id(), draw.comb(), false, "");
+        mainWindow->load();
+    }
+    static dbComb draw(int day, std::int16_t id, const std::vector<std::int16_t> &seven) {
+        lotoComb comb;
+        for (int i = 1; i <= lotoComb::size; ++i)
+            comb.num(i, seven[static_cast<std::size_t>(i - 1)]);
+        comb.compl_(seven[6]);
+        return {dateOf({2003, 1, day}), id, comb};
+    }
+    std::vector<std::string> row(std::int64_t index) const {
+        std::vector<std::string> texts;
+        for (int column = 0; column < 9; ++column)
+            texts.push_back(page.lvwDBcomb.text(index, column));
+        return texts;
+    }
+    std::string status() const { return mainWindow->StatusBar[0]; }
+
+    databasePage &page;
+    std::vector<std::int64_t> selected;
+};
+
+const std::vector<std::int16_t> sevenA = {31, 15, 33, 27, 36, 48, 34};
+const std::vector<std::int16_t> sevenB = {1, 2, 3, 4, 5, 6, 7};
+
+TEST_F(DatabasePage, TheListHasNineColumnsWithTheNumbersCentred) {
+    startWith({});
+    const std::vector<ReportColumn> &columns = page.lvwDBcomb.columns();
+    ASSERT_EQ(columns.size(), 9U);
+    const std::vector<std::string> headers = {"Date", "T", "1", "2", "3", "4", "5", "6", "C"};
+    for (std::size_t i = 0; i < headers.size(); ++i) {
+        EXPECT_EQ(columns[i].header, headers[i]);
+        EXPECT_EQ(columns[i].sample, i == 0 ? " 00/00/0000 " : " 000 ");
+        EXPECT_EQ(columns[i].centred, i != 0);
+    }
+}
+
+TEST_F(DatabasePage, ARowShowsTheDrawWithItsNumbersInStoredOrder) {
+    startWith({draw(2, 2, sevenA)});
+    EXPECT_EQ(row(0), (std::vector<std::string>{"02/01/2003", "2", "31", "15", "33", "27", "36",
+                                                "48", "34"}));
+}
+
+TEST_F(DatabasePage, AClickOnARowShowsTheDrawOnTheBoardAndClosesTheBoard) {
+    startWith({draw(2, 1, sevenA), draw(3, 2, sevenB)});
+    page.clickRow(1);
+    EXPECT_EQ(markedNumbers(page.grdDB), sevenA);
+    EXPECT_TRUE(page.grdDB.isComplementary(34));
+    EXPECT_FALSE(page.grdDB.editable());
+    EXPECT_EQ(page.lblDBCombDesc, "Tirage n° 1 du 02/01/2003");
+    EXPECT_FALSE(page.grdDB.click(10));
+    EXPECT_EQ(markedNumbers(page.grdDB), sevenA);
+}
+
+TEST_F(DatabasePage, NoRowIsSelectedRightAfterTheStartThoughTheBoardShowsTheLastDraw) {
+    startWith({draw(2, 1, sevenA), draw(3, 2, sevenB)});
+    EXPECT_EQ(page.getSelectedDraw(), 0);
+    EXPECT_EQ(markedNumbers(page.grdDB), sevenB);
+}
+
+TEST_F(DatabasePage, ModifyAndRemoveDoNothingWithoutASelectedRow) {
+    startWith({draw(2, 1, sevenA)});
+    mainWindow->StatusBar[0] = "as it was";
+    page.clickButton(databasePage::modifyDraw);
+    page.clickButton(databasePage::removeDraw);
+    EXPECT_EQ(gDbCombs->Count(), 1);
+    EXPECT_EQ(status(), "as it was");
+    EXPECT_FALSE(testing_support::fileExists(file("tirages.dbl")));
+}
+
+TEST_F(DatabasePage, AddPutsTheDrawAtTheEndAndShowsItOnTheBoard) {
+    startWith({draw(9, 1, sevenA)});
+    desktop.answerNumbers(NumberScript().click(sevenB).ok());
+    desktop.answerDate({dateOf({2003, 1, 4}), 2});
+    page.clickButton(databasePage::addDraw);
+    ASSERT_EQ(page.lvwDBcomb.rowCount(), 2);
+    EXPECT_EQ(row(1)[0], "04/01/2003");
+    EXPECT_EQ(page.lblDBCombDesc, "Tirage n° 2 du 04/01/2003");
+    EXPECT_EQ(page.getSelectedDraw(), 0);
+    EXPECT_EQ(status(), "2 combinaisons dans la base de données");
+}
+
+TEST_F(DatabasePage, RemoveTakesTheFirstSelectedRowAtOnceWithoutAQuestion) {
+    startWith({draw(2, 1, sevenA), draw(3, 1, sevenB), draw(4, 1, sevenA)});
+    selected = {2, 3};
+    page.clickButton(databasePage::removeDraw);
+    ASSERT_EQ(page.lvwDBcomb.rowCount(), 2);
+    EXPECT_EQ(row(1)[0], "04/01/2003");
+    EXPECT_TRUE(desktop.questions.empty());
+    EXPECT_EQ(status(), "2 combinaisons dans la base de données");
+    EXPECT_TRUE(testing_support::fileExists(file("tirages.dbl")));
+}
+
+TEST_F(DatabasePage, ModifyChangesTheSelectedDrawAndSortsTheBase) {
+    startWith({draw(2, 1, sevenA), draw(3, 1, sevenB)});
+    selected = {1};
+    desktop.answerNumbers(NumberScript().clear().click({10, 11, 12, 13, 14, 15, 16}).ok());
+    desktop.answerDate({dateOf({2003, 1, 20}), 1});
+    page.clickButton(databasePage::modifyDraw);
+    EXPECT_EQ(row(0)[0], "03/01/2003");
+    EXPECT_EQ(row(1), (std::vector<std::string>{"20/01/2003", "1", "10", "11", "12", "13", "14",
+                                                "15", "16"}));
+}
+
+TEST_F(DatabasePage, AnImportThatWasDismissedLeavesListAndStatusAlone) {
+    startWith({draw(2, 1, sevenA)});
+    mainWindow->StatusBar[0] = "as it was";
+    desktop.cancelOpen();
+    page.clickButton(databasePage::importDraws);
+    EXPECT_EQ(status(), "as it was");
+}
+
+TEST_F(DatabasePage, AnImportFillsTheListAndTheStatus) {
+    startWith({});
+    testing_support::writeBytes(
+        file("h.txt"),
+        "BOULE1;BOULE2;BOULE3;BOULE4;BOULE5;BOULE6;BOULE_COMPLEMENTAIRE;DATE_DE_TIRAGE;"
+        "1ER_OU_2EME_TIRAGE\r\n6;5;4;3;2;1;7;20030104;2\r\n1;2;3;4;5;6;8;20030104;1\r\n");
+    desktop.answerOpen(file("h.txt"));
+    page.clickButton(databasePage::importDraws);
+    EXPECT_EQ(page.lvwDBcomb.rowCount(), 2);
+    EXPECT_EQ(row(0)[1], "1");
+    EXPECT_EQ(page.lblDBCombDesc, "Tirage n° 2 du 04/01/2003");
+    EXPECT_EQ(status(), "2 combinaisons dans la base de données");
+}
+
+TEST_F(DatabasePage, AnImportThatEndsWithASingleDrawIsAFailureThatGivesTheWindowBack) {
+    startWith({});
+    testing_support::writeBytes(
+        file("h.txt"),
+        "BOULE1;BOULE2;BOULE3;BOULE4;BOULE5;BOULE6;BOULE_COMPLEMENTAIRE;DATE_DE_TIRAGE;"
+        "1ER_OU_2EME_TIRAGE\r\n6;5;4;3;2;1;7;20030104;2\r\n");
+    desktop.answerOpen(file("h.txt"));
+    page.clickButton(databasePage::importDraws);
+    ASSERT_EQ(desktop.messages.size(), 1U);
+    EXPECT_EQ(desktop.messages[0], (ShownBox{"L'indice n'appartient pas à la sélection",
+                                             Icon::critical, "Boulix Erreur système N° 9"}));
+    EXPECT_TRUE(desktop.mainWindowEnabled());
+    EXPECT_EQ(page.lvwDBcomb.rowCount(), 1);
+}
+
+TEST_F(DatabasePage, AFailedSaveIsShownAndTheListShowsWhatMemoryHolds) {
+    startWith({draw(2, 1, sevenA), draw(3, 1, sevenB)});
+    gDbCombs->dbFile().path(file("no such folder"));
+    selected = {1};
+    page.clickButton(databasePage::removeDraw);
+    ASSERT_EQ(desktop.messages.size(), 1U);
+    EXPECT_EQ(desktop.messages[0].icon, Icon::critical);
+    ASSERT_EQ(page.lvwDBcomb.rowCount(), 1);
+    EXPECT_EQ(row(0)[0], "03/01/2003");
+    EXPECT_EQ(status(), "1 combinaisons dans la base de données");
+}
+
+TEST_F(DatabasePage, ExportAndPrintSetTheStatusAgain) {
+    startWith({draw(2, 1, sevenA)});
+    mainWindow->StatusBar[0] = "old";
+    desktop.cancelSave();
+    page.clickButton(databasePage::exportBase);
+    EXPECT_EQ(status(), "1 combinaisons dans la base de données");
+}
+
+} // namespace
+} // namespace boulix

@@ -1,0 +1,183 @@
+// SPDX-FileCopyrightText: The Boulix developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The start of the program: log, identity, the order of the initialisations, a failed start.
+
+#include "core/appInfo.h"
+#include "core/globals.h"
+#include "core/modMain.h"
+#include "core/modMaths.h"
+#include "core/text.h"
+#include "draws/dbCombs.h"
+#include "support/boulixTest.h"
+#include "workbench/frmMain.h"
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace boulix {
+namespace {
+
+class StartUp : public FreshProgramTest {
+  protected:
+    void start(const std::string &arguments) {
+        platform.arguments = arguments;
+        modMain::Main();
+    }
+    std::vector<std::string> logLines() {
+        modMain::gLogFile.flush();
+        const std::string text = fromWestern(testing_support::readBytes(file("boulix.log")));
+        std::vector<std::string> lines;
+        for (std::string line : split(text, '\n')) {
+            if (!line.empty() && line.back() == '\r')
+                line.pop_back();
+            lines.push_back(line);
+        }
+        return lines;
+    }
+};
+
+const std::vector<std::string> wholeLog = {
+    "Fichier généré par boulix Version 4.0.3 le 15/11/2026",
+    "modMain.Main: Précalcul des Cnk",
+    "modMain.Main: Initialisation des types de statistique",
+    "modMain.Main: Initialisation des paramètres graphiques des statistiques",
+    "modMain.Main: Initialisation des types de jeu",
+    "modMain.Main: Chargement des jeux réduits utilisateur",
+    "modMain.Main: Initialisation des paramètres d'impression",
+    "modMain.Main: Initialisation des paramètres de grille",
+    "modMain.Main: Chargement en mémoire de la base de données des tirages",
+    "modMain.Main: Chargement du fichier de rapport par défaut",
+    "modMain.Main: Initialisation des éliminateurs",
+    "modMain.Main: Initialisation des pronostiques",
+    "",
+    "modMain.Main: *** Initialisations terminées ***",
+    "",
+    "frmMain.Load: Chargement de la fenêtre",
+    "frmMain.Load: Initialisation des onglets",
+    "frmMain.frmInitTab: Mise en place des frames des onglets",
+    "frmMain.frmInitTab: Dimensionnement des frames",
+    "frmMain.frmInitTab: Onglet courant par défaut",
+    "frmMain.frmInitTab: Initialisation de l'onglet de gestion de base de données",
+    "frmMain.frmInitTab: Initialisation de l'onglet de statistiques",
+    "frmMain.frmInitTab: Initialisation de l'onglet des éliminateurs",
+    "frmMain.frmInitTab: Initialisation de l'onglet des jeux",
+    "frmMain.frmInitTab: Initialisation de l'onglet des statistiques par tirage",
+    "frmMain.frmInitTab: Initialisation de l'onglet de pronostiques",
+    "frmMain.frmInitTab: Mise à jour de la base de données des tirages",
+    "frmMain.frmUpdateDBList: Remplissage de la liste des combinaisons",
+    "frmMain.frmUpdateDBList: -> Remplissage OK",
+    "frmMain.frmUpdateDBList: -> 0 combinaisons",
+    "frmMain.frmUpdateDBList: -> Sélection du premier item",
+    "frmMain.Load: Mise à jour des rapports de gain",
+    "frmMain.Load: Fin de chargement de la fenêtre",
+    "",
+};
+
+TEST_F(StartUp, AnEmptyCommandLineGivesAnEmptyFirstTokenAndNoLog) {
+    start("");
+    EXPECT_EQ(modMain::parseCommandLine(1), (std::vector<std::string>{"", ""}));
+    EXPECT_FALSE(modMain::gDebug);
+    EXPECT_FALSE(testing_support::fileExists(file("boulix.log")));
+}
+
+TEST_F(StartUp, TheLogIsStartedByTheFirstTokenAloneAndInThisSpellingOnly) {
+    const std::vector<std::pair<std::string, bool>> cases = {
+        {"-debug", true},    {"-debug x", true}, {"  \t-debug", true}, {"-DEBUG", false},
+        {"x -debug", false}, {"-debugx", false}, {"--debug", false},
+    };
+    for (const auto &[arguments, logged] : cases) {
+        resetGlobals();
+        modMain::gLogFile.close();
+        start(arguments);
+        EXPECT_EQ(modMain::gDebug, logged) << arguments;
+    }
+}
+
+TEST_F(StartUp, TheLogTellsEveryStepInOrder) {
+    start("-debug");
+    EXPECT_EQ(logLines(), wholeLog);
+}
+
+TEST_F(StartUp, TwoRunsLeaveOnlyTheLogOfTheSecond) {
+    start("-debug");
+    modMain::gLogFile.close();
+    resetGlobals();
+    platform.day = dateOf({2026, 11, 16});
+    start("-debug");
+    std::vector<std::string> second = wholeLog;
+    second[0] = "Fichier généré par boulix Version 4.0.3 le 16/11/2026";
+    EXPECT_EQ(logLines(), second);
+}
+
+TEST_F(StartUp, TheIdentityIsFilledAndTheBinomialTableIsThere) {
+    start("");
+    EXPECT_EQ(gAppInfo->name(), "boulix");
+    EXPECT_EQ(gAppInfo->version(), "4.0.3");
+    EXPECT_EQ(gAppInfo->fullName(), "boulix Version 4.0.3");
+    EXPECT_EQ(gAppInfo->description(), "");
+    EXPECT_EQ(gAppInfo->author(), "Marcel Quillon");
+    EXPECT_EQ(gAppInfo->company(), "Quillon Logiciels");
+    EXPECT_EQ(gAppInfo->copyright(), 2003);
+    EXPECT_EQ(gAppInfo->disclaimer(),
+              "Attention!!! Ce logiciel constitue une aide au jeu mais ne saurait en aucun cas "
+              "garantir les gains. L'auteur décline toute responsabilité en cas de pertes "
+              "d'argent qui auraient pu être dues à l'utilisation de ce produit. En revanche, en "
+              "cas de gros gains, pensez à lui!!!");
+    EXPECT_EQ(modMaths::cnkTable[6][49], 13983816);
+}
+
+TEST_F(StartUp, TheSplashWindowShowsTheIdentityAndIsGoneAtTheEnd) {
+    start("");
+    ASSERT_EQ(desktop.splashes.size(), 1U);
+    const SplashTexts &splash = desktop.splashes[0];
+    EXPECT_EQ(splash.lblVersion, "Version 4.0.3");
+    EXPECT_EQ(splash.lblProductName, "boulix");
+    EXPECT_EQ(splash.lblCompany, "Quillon Logiciels");
+    EXPECT_EQ(splash.lblCopyright, "(c) 2003");
+    EXPECT_EQ(splash.lblPlatform, "Windows 98, ME, NT, 2000, XP");
+    EXPECT_EQ(splash.lblWarning, gAppInfo->disclaimer());
+    EXPECT_FALSE(desktop.splashVisible);
+    EXPECT_TRUE(desktop.mainWindowShown);
+}
+
+TEST_F(StartUp, AnEmptyFolderGivesAnEmptyBaseAndItsFile) {
+    start("");
+    EXPECT_EQ(gDbCombs->Count(), 0);
+    EXPECT_EQ(testing_support::readBytes(file("tirages.dbl")).size(), 86U);
+    EXPECT_EQ(mainWindow->StatusBar[0], "0 combinaisons dans la base de données");
+    EXPECT_EQ(mainWindow->database.lvwDBcomb.rowCount(), 0);
+    EXPECT_EQ(modMain::gCurrentDir, folder());
+}
+
+TEST_F(StartUp, AFailureWhileTheBaseIsLoadedClosesTheLogAndShowsNoMainWindow) {
+    std::filesystem::create_directory(file("tirages.dbl"));
+    start("-debug");
+    ASSERT_EQ(desktop.messages.size(), 1U);
+    EXPECT_EQ(desktop.messages[0],
+              (ShownBox{"Erreur d'accès au chemin/fichier : " + file("tirages.dbl"), Icon::critical,
+                        "Boulix Erreur système N° 75"}));
+    EXPECT_FALSE(modMain::gLogFile.is_open());
+    EXPECT_TRUE(modMain::gDebug);
+    EXPECT_FALSE(desktop.mainWindowShown);
+    EXPECT_TRUE(desktop.splashVisible);
+}
+
+TEST_F(StartUp, AForeignBaseIsRefusedWithAMessageAndTheStartGoesOn) {
+    testing_support::writeBytes(file("tirages.dbl"), std::string(50, 'x'));
+    start("");
+    ASSERT_FALSE(desktop.messages.empty());
+    EXPECT_EQ(desktop.messages[0].title, "boulix: Erreur N° 4401");
+    EXPECT_TRUE(desktop.mainWindowShown);
+    EXPECT_EQ(testing_support::readBytes(file("tirages.dbl")), std::string(50, 'x'));
+}
+
+TEST_F(StartUp, ALogThatCannotBeOpenedIsAFailureOfTheWholeStart) {
+    std::filesystem::create_directory(file("boulix.log"));
+    EXPECT_EQ(failureNumber([this] { start("-debug"); }), 75);
+    EXPECT_FALSE(desktop.mainWindowShown);
+}
+
+} // namespace
+} // namespace boulix
