@@ -3,9 +3,15 @@
 
 #pragma once
 
+#include <bit>
 #include <cstdint>
 
 namespace boulix {
+
+/// The mask of the numbers 1 to 49.
+inline constexpr std::uint64_t allNumbers = 0x3fffffffffffe;
+/// The mask of the even ones.
+inline constexpr std::uint64_t evenNumbers = allNumbers & 0x5555555555555555;
 
 /// The bit of number `n` in a mask of the numbers 1 to 49; no bit for any other value.
 constexpr std::uint64_t numberBit(std::int16_t n) {
@@ -19,6 +25,13 @@ constexpr std::uint64_t maskOf(const Numbers &numbers) {
     for (const std::int16_t n : numbers)
         mask |= numberBit(n);
     return mask;
+}
+
+/// Calls `use` with each number of `mask`, ascending.
+template <class Use>
+constexpr void forEachNumber(std::uint64_t mask, Use use) {
+    for (; mask != 0; mask &= mask - 1)
+        use(static_cast<std::int16_t>(std::countr_zero(mask)));
 }
 
 } // namespace boulix

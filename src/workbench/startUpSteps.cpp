@@ -6,6 +6,8 @@
 #include "core/globals.h"
 #include "core/modMaths.h"
 #include "draws/dbCombs.h"
+#include "stats/statStores.h"
+#include "stats/statTypes.h"
 #include "winnings/rapport.h"
 
 namespace boulix::modMain {
@@ -13,9 +15,9 @@ namespace boulix::modMain {
 const std::vector<StartUpStep> &startUpSteps() {
     static const std::vector<StartUpStep> steps = {
         {"Précalcul des Cnk", modMaths::precomputeCnk},
-        {"Initialisation des types de statistique", nullptr},
+        {"Initialisation des types de statistique", modStats::InitStatTypes},
         {"Initialisation des paramètres graphiques des statistiques", nullptr},
-        {"Initialisation des types de jeu", nullptr},
+        {"Initialisation des types de jeu", modStats::InitTripletTable},
         {"Chargement des jeux réduits utilisateur", nullptr},
         {"Initialisation des paramètres d'impression", nullptr},
         {"Initialisation des paramètres de grille", nullptr},

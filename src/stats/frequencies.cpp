@@ -1,0 +1,93 @@
+// SPDX-FileCopyrightText: The Boulix developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "stats/modStats.h"
+
+#include "core/numberMask.h"
+#include "stats/statStores.h"
+#include "stats/stretch.h"
+
+namespace boulix::modStats {
+
+namespace {
+
+void score(ByNumber &counts, const lotoComb &comb) {
+    for (int i = 1; i <= lotoComb::size; ++i)
+        ++counts[static_cast<std::size_t>(comb.num(i))];
+}
+
+/// Type 1: every number of every draw scores.
+void countAll(ByNumber &counts, std::span<const dbComb> draws, std::int16_t withCompl) {
+    for (const dbComb &draw : draws) {
+        checkNumbers(draw.comb(), withCompl);
+        score(counts, draw.comb());
+        if (withCompl == 1)
+            ++counts[static_cast<std::size_t>(draw.comb().compl_())];
+    }
+}
+
+/// Types 2 to 5: the six numbers of the draws that hold all the chosen ones score.
+void countPartners(ByNumber &counts, std::span<const dbComb> draws, std::uint64_t chosen,
+                   std::int16_t withCompl) {
+    const int n = std::popcount(chosen);
+    for (const dbComb &draw : draws) {
+        if (matches(draw.comb(), chosen, withCompl) != n)
+            continue;
+        checkNumbers(draw.comb(), 0);
+        score(counts, draw.comb());
+    }
+    forEachNumber(chosen, [&counts](std::int16_t p) { counts[static_cast<std::size_t>(p)] = 0; });
+}
+
+/// The stored sum where six or seven different numbers can have it, else the sum of the numbers:
+/// imported draws have no sum before the next load.
+std::int32_t sumWithout(const lotoComb &comb) {
+    if (comb.sum() >= 21 && comb.sum() <= maxSum)
+        return comb.sum();
+    std::int32_t sum = 0;
+    for (int i = 1; i <= lotoComb::size; ++i)
+        sum += comb.num(i);
+    return sum;
+}
+
+std::int32_t sumWith(const lotoComb &comb) {
+    if (comb.sumtot() >= 28 && comb.sumtot() <= maxSumTot)
+        return comb.sumtot();
+    std::int32_t sum = comb.compl_();
+    for (int i = 1; i <= lotoComb::size; ++i)
+        sum += comb.num(i);
+    return sum;
+}
+
+} // namespace
+
+void ComputeFrequency(std::int16_t type, std::uint64_t chosen, std::int16_t withCompl,
+                      std::int32_t first, std::int32_t last) {
+    const std::span<const dbComb> draws = stretch(first, last);
+    ByNumber counts{};
+    if (type == 1)
+        countAll(counts, draws, withCompl);
+    else
+        countPartners(counts, draws, chosen, withCompl);
+    storeByNumber(counts);
+}
+
+void ComputeSums(std::int16_t withCompl, std::int32_t first, std::int32_t last) {
+    const std::span<const dbComb> draws = stretch(first, last);
+    nStatResult = withCompl != 0 ? maxSumTot : maxSum;
+    statResult.fill(nStatResult, 0);
+    for (const dbComb &draw : draws) {
+        const std::int32_t sum = withCompl != 0 ? sumWith(draw.comb()) : sumWithout(draw.comb());
+        ++statResult(checkedIndex(sum, 1, nStatResult));
+    }
+}
+
+void ComputeEvenCount(std::int16_t withCompl, std::int32_t first, std::int32_t last) {
+    const std::span<const dbComb> draws = stretch(first, last);
+    nStatResult = withCompl == 1 ? 8 : 7;
+    statResult.fill(nStatResult, 0);
+    for (const dbComb &draw : draws)
+        ++statResult(draw.countPair(withCompl) + 1);
+}
+
+} // namespace boulix::modStats
