@@ -1,0 +1,20 @@
+// SPDX-FileCopyrightText: The Boulix developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "core/modMain.h"
+#include "core/reports.h"
+#include "ui/application.h"
+#include "ui/qtDesktop.h"
+#include "ui/qtPlatform.h"
+
+int main(int argc, char **argv) {
+    boulix::QtPlatform platform(argc, argv);
+    boulix::setPlatform(&platform);
+    boulix::Application application(argc, argv);
+    boulix::QtDesktop desktop;
+    boulix::setDesktop(&desktop);
+
+    boulix::runCommand(boulix::modMain::Main);
+    const bool onScreen = desktop.startEnded();
+    return onScreen ? boulix::Application::exec() : 1;
+}

@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: The Boulix developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "ui/application.h"
+
+#include "core/reports.h"
+#include "ui/iconLoader.h"
+#include "ui/theme.h"
+
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QTranslator>
+
+namespace boulix {
+
+Application::Application(int &argc, char **argv) : QApplication(argc, argv) {
+    setApplicationName(QStringLiteral("boulix"));
+    setApplicationDisplayName(QString());
+    if (QLocale::system().language() == QLocale::C)
+        QLocale::setDefault(QLocale(QLocale::French, QLocale::France));
+    speakFrench();
+    theme::apply(*this);
+    setWindowIcon(logoIcon());
+}
+
+bool Application::notify(QObject *receiver, QEvent *event) {
+    bool handled = true;
+    runCommand([&] { handled = QApplication::notify(receiver, event); });
+    return handled;
+}
+
+/// The program speaks French whatever the system speaks, and so must Qt's own buttons.
+void Application::speakFrench() {
+    auto *translator = new QTranslator(this);
+    const QString name = QStringLiteral("qtbase_fr");
+    const QString beside = applicationDirPath() + QStringLiteral("/translations");
+    if (translator->load(name, QLibraryInfo::path(QLibraryInfo::TranslationsPath)) ||
+        translator->load(name, beside))
+        installTranslator(translator);
+}
+
+} // namespace boulix

@@ -1,0 +1,157 @@
+// SPDX-FileCopyrightText: The Boulix developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "ui/mainWindow.h"
+
+#include "core/appInfo.h"
+#include "core/globals.h"
+#include "core/reports.h"
+#include "ui/databaseTab.h"
+#include "ui/frmAbout.h"
+#include "ui/iconLoader.h"
+#include "ui/qtText.h"
+#include "ui/theme.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QLabel>
+#include <QMenuBar>
+#include <QStatusBar>
+#include <QTabBar>
+#include <QTabWidget>
+
+namespace boulix {
+
+namespace {
+
+/// A twentieth of a point on the screen, enlarged for today's fonts and toolbars.
+constexpr double pixelsPerTwip = 1.35 / 15;
+constexpr QSize sizeInTwips{8685, 7560};
+
+/// The captions of the tabs with their mnemonics, and their icons.
+struct TabLook {
+    QString caption;
+    QString icon;
+};
+
+std::array<TabLook, frmMain::tabCount> tabLooks() {
+    return {{{QStringLiteral("&Base de données"), QStringLiteral("database")},
+             {QStringLiteral("S&tatistiques"), QStringLiteral("statistics")},
+             {QStringLiteral("A&nalyse par tirage"), QStringLiteral("analysis")},
+             {QStringLiteral("&Eliminateurs"), QStringLiteral("eliminate")},
+             {QStringLiteral("&Jeux"), QStringLiteral("game")},
+             {QStringLiteral("Pr&onostiques"), QStringLiteral("forecast")}}};
+}
+
+} // namespace
+
+MainWindow::MainWindow(frmMain &main) : main_(main), TabStrip(new QTabWidget(this)) {
+    setObjectName(QStringLiteral("frmMain"));
+    setCentralWidget(TabStrip);
+    makePages();
+    makeMenus();
+    makeStatusBar();
+    main_.view(this);
+    refresh();
+    TabStrip->currentWidget()->setFocus();
+    resize(sizeInTwips * pixelsPerTwip);
+}
+
+MainWindow::~MainWindow() {
+    main_.view(nullptr);
+}
+
+void MainWindow::makePages() {
+    TabStrip->setObjectName(QStringLiteral("TabStrip"));
+    TabStrip->setDocumentMode(true);
+    TabStrip->setIconSize({18, 18});
+    const auto looks = tabLooks();
+    for (std::size_t i = 0; i < looks.size(); ++i) {
+        QWidget *page = i == 0 ? new DatabaseTab(main_.database, TabStrip) : new QWidget(TabStrip);
+        page->setObjectName(QStringLiteral("frameTab_%1").arg(i));
+        const int tab = TabStrip->addTab(page, loadIcon(looks[i].icon), looks[i].caption);
+        TabStrip->setTabToolTip(tab, QString::fromUtf8(frmMain::tabs[i].toolTip));
+    }
+    connect(TabStrip, &QTabWidget::currentChanged, this,
+            [this](int index) { runCommand([&] { main_.clickTab(index + 1); }); });
+    TabStrip->setMinimumWidth(TabStrip->tabBar()->sizeHint().width()); // no tab is scrolled away
+}
+
+QAction *MainWindow::addEntry(QMenu &menu, const QString &name, const QString &caption,
+                              const QString &icon) {
+    QAction *entry = menu.addAction(loadIcon(icon), caption);
+    entry->setObjectName(name);
+    return entry;
+}
+
+void MainWindow::makeMenus() {
+    QMenu *file = menuBar()->addMenu(QStringLiteral("&Fichier"));
+    file->setObjectName(QStringLiteral("mnuFile"));
+    QAction *canvas = addEntry(*file, QStringLiteral("mnuPrintCanvas"),
+                               QStringLiteral("&Imprimer le canevas"), QStringLiteral("grid-slip"));
+    file->addSeparator();
+    QAction *quit = addEntry(*file, QStringLiteral("mnuExit"), QStringLiteral("&Quitter"),
+                             QStringLiteral("quit"));
+    quit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
+    connect(quit, &QAction::triggered, this, &QWidget::close);
+
+    QMenu *config = menuBar()->addMenu(QStringLiteral("&Configuration"));
+    config->setObjectName(QStringLiteral("mnuConfig"));
+    QAction *printer =
+        addEntry(*config, QStringLiteral("mnuPrinter"), QStringLiteral("Paramètres d'&impression"),
+                 QStringLiteral("printer"));
+    QAction *grid =
+        addEntry(*config, QStringLiteral("mnuGrid"), QStringLiteral("Paramètres des &grilles"),
+                 QStringLiteral("grid-slip"));
+    QAction *graph =
+        addEntry(*config, QStringLiteral("mnuGraphParam"),
+                 QStringLiteral("Paramètres des g&raphiques"), QStringLiteral("chart"));
+    // What these entries open is not part of the program yet.
+    for (QAction *later : {canvas, printer, grid, graph})
+        later->setEnabled(false);
+
+    QMenu *help = menuBar()->addMenu(QStringLiteral("&?"));
+    help->setObjectName(QStringLiteral("mnuHlp"));
+    QAction *pages =
+        addEntry(*help, QStringLiteral("mnuHelp"), QStringLiteral("&Aide"), QStringLiteral("help"));
+    pages->setShortcut(QKeySequence(Qt::Key_F1));
+    connect(pages, &QAction::triggered, this, [this] { runCommand([this] { main_.showHelp(); }); });
+    QAction *about = addEntry(*help, QStringLiteral("mnuAbout"), QStringLiteral("A &propos"),
+                              QStringLiteral("about"));
+    connect(about, &QAction::triggered, this, &MainWindow::showAbout);
+}
+
+void MainWindow::makeStatusBar() {
+    auto *bar = new QStatusBar(this);
+    bar->setObjectName(QStringLiteral("StatusBar"));
+    setStatusBar(bar);
+    for (std::size_t i = 0; i < panels_.size(); ++i) {
+        panels_[i] = new QLabel(bar);
+        panels_[i]->setObjectName(QStringLiteral("StatusBar_%1").arg(i + 1));
+        panels_[i]->setContentsMargins(theme::gap, 0, theme::gap, 0);
+        bar->addWidget(panels_[i]);
+    }
+}
+
+void MainWindow::refresh() {
+    setWindowTitle(toQt(main_.caption));
+    for (std::size_t i = 0; i < panels_.size(); ++i) {
+        panels_[i]->setText(toQt(main_.StatusBar[i]));
+        panels_[i]->setVisible(!main_.StatusBar[i].empty());
+    }
+    TabStrip->setCurrentIndex(main_.visiblePage());
+}
+
+void MainWindow::showAbout() {
+    frmAbout(*gAppInfo, this).exec();
+}
+
+void MainWindow::closeEvent(QCloseEvent *event) {
+    // While a long job is under way the window is disabled, but its close box is not.
+    bool mayClose = false;
+    if (isEnabled())
+        runCommand([&] { mayClose = main_.queryClose(); });
+    event->setAccepted(mayClose);
+}
+
+} // namespace boulix

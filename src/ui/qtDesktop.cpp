@@ -1,0 +1,194 @@
+// SPDX-FileCopyrightText: The Boulix developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "ui/qtDesktop.h"
+
+#include "core/frmNbrSelector.h"
+#include "core/frmProgress.h"
+#include "core/globals.h"
+#include "ui/fileDialogs.h"
+#include "ui/frmSelDate.h"
+#include "ui/frmSplash.h"
+#include "ui/helpWindow.h"
+#include "ui/mainWindow.h"
+#include "ui/numberDialog.h"
+#include "ui/platformHelp.h"
+#include "ui/progressWindow.h"
+#include "ui/qtText.h"
+
+#include <QApplication>
+#include <QFileInfo>
+#include <QInputDialog>
+#include <QMessageBox>
+
+namespace boulix {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr auto eventsEvery = 16ms;
+/// A job that is done sooner shows no progress window: it would only flicker.
+constexpr auto progressAfter = 200ms;
+
+QMessageBox::Icon qtIcon(Icon icon) {
+    switch (icon) {
+    case Icon::information:
+        return QMessageBox::Information;
+    case Icon::question:
+        return QMessageBox::Question;
+    case Icon::critical:
+        return QMessageBox::Critical;
+    case Icon::none:
+        break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+QMessageBox::StandardButton runBox(QWidget *parent, const std::string &text, Icon icon,
+                                   const std::string &title, QMessageBox::StandardButtons buttons) {
+    QMessageBox box(qtIcon(icon), toQt(title), linesToQt(text), buttons, parent);
+    box.setObjectName(QStringLiteral("messageBox"));
+    box.setTextFormat(Qt::PlainText);
+    return static_cast<QMessageBox::StandardButton>(box.exec());
+}
+
+} // namespace
+
+QtDesktop::QtDesktop() = default;
+QtDesktop::~QtDesktop() {
+    delete help_;
+}
+
+void QtDesktop::showMessage(const std::string &text, Icon icon, const std::string &title) {
+    runBox(parentForDialog(), text, icon, title, QMessageBox::Ok);
+}
+
+bool QtDesktop::askYesNo(const std::string &text, Icon icon, const std::string &title) {
+    const auto buttons = QMessageBox::Yes | QMessageBox::No;
+    return runBox(parentForDialog(), text, icon, title, buttons) == QMessageBox::Yes;
+}
+
+std::optional<std::string> QtDesktop::askText(const std::string &prompt, const std::string &title) {
+    QInputDialog dialog(parentForDialog());
+    dialog.setObjectName(QStringLiteral("inputBox"));
+    dialog.setWindowTitle(toQt(title));
+    dialog.setLabelText(linesToQt(prompt));
+    if (dialog.exec() != QDialog::Accepted)
+        return std::nullopt;
+    return fromQt(dialog.textValue());
+}
+
+std::string QtDesktop::openFile(const FileQuestion &question) {
+    return fileDialogs::open(parentForDialog(), question);
+}
+
+std::string QtDesktop::saveFile(const FileQuestion &question) {
+    return fileDialogs::save(parentForDialog(), question);
+}
+
+void QtDesktop::runNumberDialog(frmNbrSelector &dialog) {
+    NumberDialog(dialog, parentForDialog()).exec();
+}
+
+DrawDate QtDesktop::runDateDialog() {
+    frmSelDate dialog(parentForDialog());
+    dialog.exec();
+    return dialog.answer();
+}
+
+void QtDesktop::progressLoaded(frmProgress &progress) {
+    if (main_) {
+        focusBefore_ = main_->focusWidget();
+        main_->setEnabled(false);
+    }
+    progress_ = std::make_unique<ProgressWindow>(progress, main_.get());
+    progressDue_ = Clock::now() + progressAfter;
+}
+
+void QtDesktop::progressUnloaded() {
+    progress_.reset();
+    if (!main_)
+        return;
+    main_->setEnabled(true);
+    if (focusBefore_)
+        focusBefore_->setFocus();
+}
+
+void QtDesktop::runEvents() {
+    const Clock::time_point now = Clock::now();
+    if (now < nextEvents_)
+        return;
+    followProgress(now);
+    QApplication::processEvents();
+    nextEvents_ = Clock::now() + eventsEvery;
+}
+
+void QtDesktop::followProgress(Clock::time_point now) {
+    if (!progress_)
+        return;
+    progress_->refresh();
+    if (now >= progressDue_ && !progress_->isVisible())
+        progress_->show();
+}
+
+void QtDesktop::showSplash(const SplashTexts &texts) {
+    splash_ = std::make_unique<frmSplash>(texts);
+    splash_->show();
+    QApplication::processEvents();
+}
+
+void QtDesktop::unloadSplash() {
+    splash_.reset();
+}
+
+void QtDesktop::showMainWindow() {
+    main_ = std::make_unique<MainWindow>(*boulix::mainWindow);
+    main_->show();
+}
+
+void QtDesktop::unloadOtherWindows() {
+    progress_.reset();
+    splash_.reset();
+    for (QWidget *window : QApplication::topLevelWidgets())
+        if (window != main_.get())
+            window->close();
+}
+
+void QtDesktop::showHelp(const std::string &target, std::optional<std::int32_t> context) {
+    if (showPlatformHelp(target, context))
+        return;
+    const QString page = HelpWindow::pageFor(target, context);
+    if (!QFileInfo(page).isFile()) {
+        const std::string text = "La page d'aide " + fromQt(page) + " est introuvable.";
+        showMessage(text, Icon::information, "Aide");
+        return;
+    }
+    if (!help_) {
+        help_ = new HelpWindow;
+        help_->setAttribute(Qt::WA_DeleteOnClose);
+    }
+    help_->showPage(page);
+}
+
+bool QtDesktop::startEnded() {
+    if (splash_)
+        splash_->offerToClose();
+    return splash_ || main_;
+}
+
+QWidget *QtDesktop::mainWidget() const {
+    return main_.get();
+}
+
+QWidget *QtDesktop::parentForDialog() const {
+    if (QWidget *modal = QApplication::activeModalWidget())
+        return modal;
+    if (progress_ && progress_->isVisible())
+        return progress_.get();
+    if (main_)
+        return main_.get();
+    return splash_.get();
+}
+
+} // namespace boulix

@@ -1,0 +1,356 @@
+// SPDX-FileCopyrightText: The Boulix developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "ui/reportView.h"
+
+#include "core/reportList.h"
+#include "ui/qtText.h"
+#include "ui/reportListModel.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QScrollBar>
+#include <QStyledItemDelegate>
+
+#include <algorithm>
+
+namespace boulix {
+
+namespace {
+
+constexpr int cellMargin = 6; // left and right of a text
+constexpr int rowPadding = 7; // above and below it, together
+
+} // namespace
+
+ReportView::ReportView(reportList &list, QWidget *parent)
+    : QAbstractItemView(parent), model_(std::make_unique<ReportListModel>(list)),
+      header_(new QHeaderView(Qt::Horizontal, this)) {
+    setSelectionBehavior(SelectRows);
+    setSelectionMode(SingleSelection);
+    setEditTriggers(NoEditTriggers);
+    setTabKeyNavigation(false);
+    setAlternatingRowColors(true);
+    setHorizontalScrollMode(ScrollPerPixel);
+    setContextMenuPolicy(Qt::ActionsContextMenu);
+    makeHeader();
+    makeCopyActions();
+    setModel(model_.get());
+    header_->setModel(model_.get());
+    sizeColumns();
+}
+
+ReportView::~ReportView() {
+    setModel(nullptr);
+    header_->setModel(nullptr);
+}
+
+void ReportView::makeHeader() {
+    header_->setSectionsClickable(true);
+    header_->setHighlightSections(false);
+    header_->setStretchLastSection(true);
+    header_->setMinimumSectionSize(fontMetrics().averageCharWidth() * 3);
+    connect(header_, &QHeaderView::sectionClicked, this, &ReportView::headerClicked);
+    connect(header_, &QHeaderView::sectionResized, this, [this] {
+        updateGeometries();
+        viewport()->update();
+    });
+}
+
+void ReportView::makeCopyActions() {
+    auto *copy = new QAction(QStringLiteral("&Copier"), this);
+    copy->setObjectName(QStringLiteral("copySelected"));
+    copy->setShortcut(QKeySequence::Copy);
+    copy->setShortcutContext(Qt::WidgetShortcut);
+    connect(copy, &QAction::triggered, this, &ReportView::copySelected);
+    auto *all = new QAction(QStringLiteral("Copier &toute la liste"), this);
+    all->setObjectName(QStringLiteral("copyAll"));
+    connect(all, &QAction::triggered, this, &ReportView::copyAll);
+    addActions({copy, all});
+}
+
+namespace {
+
+/// The rows `first` to `last` of `model`, one to a line, the columns parted by tabs.
+void appendRows(QString &text, const ReportListModel &model, int first, int last) {
+    for (int row = first; row <= last; ++row)
+        for (int column = 0; column < model.columnCount(); ++column)
+            text += model.index(row, column).data().toString() +
+                    (column + 1 < model.columnCount() ? QLatin1Char('\t') : QLatin1Char('\n'));
+}
+
+} // namespace
+
+void ReportView::copySelected() const {
+    QItemSelection ranges = selectionModel()->selection();
+    std::sort(ranges.begin(), ranges.end(),
+              [](const auto &a, const auto &b) { return a.top() < b.top(); });
+    QString text;
+    for (const QItemSelectionRange &range : ranges)
+        appendRows(text, *model_, range.top(), range.bottom());
+    if (!text.isEmpty())
+        QApplication::clipboard()->setText(text);
+}
+
+void ReportView::copyAll() const {
+    QStringList headers;
+    for (const ReportColumn &column : model_->list().columns())
+        headers << toQt(column.header);
+    QString text = headers.join(QLatin1Char('\t')) + QLatin1Char('\n');
+    appendRows(text, *model_, 0, rowCount() - 1);
+    QApplication::clipboard()->setText(text);
+}
+
+std::vector<std::int64_t> ReportView::selectedRows() const {
+    std::vector<std::int64_t> rows;
+    for (const QItemSelectionRange &range : selectionModel()->selection())
+        for (int row = range.top(); row <= range.bottom(); ++row)
+            rows.push_back(row + 1);
+    std::sort(rows.begin(), rows.end());
+    return rows;
+}
+
+int ReportView::fullWidth() const {
+    int width = verticalScrollBar()->sizeHint().width() + 2 * frameWidth();
+    for (int column = 0; column < header_->count(); ++column)
+        width += header_->sectionSize(column);
+    return width;
+}
+
+QSize ReportView::sizeHint() const {
+    return {fullWidth(), 16 * rowHeight_};
+}
+
+QSize ReportView::minimumSizeHint() const {
+    return {12 * fontMetrics().averageCharWidth(), header_->sizeHint().height() + 5 * rowHeight_};
+}
+
+/// New rows: the place in the list stays where it was, as far as the list still reaches.
+void ReportView::reset() {
+    const int top = verticalScrollBar()->value();
+    QAbstractItemView::reset();
+    sizeColumns();
+    updateGeometries();
+    verticalScrollBar()->setValue(top);
+}
+
+void ReportView::changeEvent(QEvent *event) {
+    QAbstractItemView::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+        sizeColumns();
+}
+
+void ReportView::sizeColumns() {
+    rowHeight_ = fontMetrics().height() + rowPadding;
+    const reportList &list = model_->list();
+    const int columns = std::min(header_->count(), static_cast<int>(list.columns().size()));
+    for (int column = 0; column < columns; ++column) {
+        const ReportColumn &told = list.columns()[static_cast<std::size_t>(column)];
+        const QString sample = toQt(told.sample.empty() ? told.header : told.sample);
+        const int header = header_->sectionSizeHint(column);
+        header_->resizeSection(
+            column, std::max(header, fontMetrics().horizontalAdvance(sample) + 2 * cellMargin));
+    }
+    const int column = list.sortColumn();
+    header_->setSortIndicatorShown(column >= 0);
+    header_->setSortIndicator(column, Qt::AscendingOrder);
+}
+
+int ReportView::rowCount() const {
+    return model_->rowCount();
+}
+
+int ReportView::rowAt(int y) const {
+    const int row = verticalScrollBar()->value() + y / rowHeight_;
+    return y >= 0 && row < rowCount() ? row : -1;
+}
+
+int ReportView::fullyVisibleRows() const {
+    return std::max(1, viewport()->height() / rowHeight_);
+}
+
+QRect ReportView::visualRect(const QModelIndex &index) const {
+    if (!index.isValid())
+        return {};
+    const qint64 y = (qint64{index.row()} - verticalScrollBar()->value()) * rowHeight_;
+    const qint64 far = qint64{viewport()->height()} + rowHeight_;
+    return {header_->sectionViewportPosition(index.column()),
+            static_cast<int>(std::clamp(y, -far, far)), header_->sectionSize(index.column()),
+            rowHeight_};
+}
+
+QModelIndex ReportView::indexAt(const QPoint &point) const {
+    const int row = rowAt(point.y());
+    // Behind the last column a row is still the row.
+    const int column = std::max(0, header_->logicalIndexAt(point.x()));
+    return row < 0 ? QModelIndex() : model_->index(row, column);
+}
+
+void ReportView::scrollTo(const QModelIndex &index, ScrollHint hint) {
+    if (!index.isValid())
+        return;
+    QScrollBar *bar = verticalScrollBar();
+    const int shown = fullyVisibleRows();
+    const int row = index.row();
+    if (hint == PositionAtTop)
+        bar->setValue(row);
+    else if (hint == PositionAtBottom)
+        bar->setValue(row - shown + 1);
+    else if (hint == PositionAtCenter)
+        bar->setValue(row - shown / 2);
+    else if (row < bar->value())
+        bar->setValue(row);
+    else if (row >= bar->value() + shown)
+        bar->setValue(row - shown + 1);
+}
+
+QModelIndex ReportView::moveCursor(CursorAction action, Qt::KeyboardModifiers) {
+    const int last = rowCount() - 1;
+    if (last < 0)
+        return {};
+    const bool onRow = currentIndex().isValid();
+    int row = onRow ? currentIndex().row() : -1;
+    switch (action) {
+    case MoveUp:
+        row = onRow ? row - 1 : last;
+        break;
+    case MoveDown:
+        row += 1;
+        break;
+    case MovePageUp:
+        row -= fullyVisibleRows();
+        break;
+    case MovePageDown:
+        row += fullyVisibleRows();
+        break;
+    case MoveHome:
+        row = 0;
+        break;
+    case MoveEnd:
+        row = last;
+        break;
+    case MoveLeft:
+    case MoveRight:
+        horizontalScrollBar()->triggerAction(action == MoveLeft
+                                                 ? QAbstractSlider::SliderSingleStepSub
+                                                 : QAbstractSlider::SliderSingleStepAdd);
+        return currentIndex();
+    default:
+        return currentIndex();
+    }
+    return model_->index(std::clamp(row, 0, last), 0);
+}
+
+int ReportView::horizontalOffset() const {
+    return header_->offset();
+}
+
+int ReportView::verticalOffset() const {
+    return verticalScrollBar()->value() * rowHeight_;
+}
+
+void ReportView::setSelection(const QRect &rect, QItemSelectionModel::SelectionFlags command) {
+    const int first = rowAt(std::max(0, rect.top()));
+    const int under = rowAt(rect.bottom());
+    const int last = under < 0 ? rowCount() - 1 : under;
+    QItemSelection selection;
+    if (first >= 0)
+        selection.select(model_->index(first, 0), model_->index(last, model_->columnCount() - 1));
+    selectionModel()->select(selection, command);
+}
+
+QRegion ReportView::visualRegionForSelection(const QItemSelection &selection) const {
+    const int width = viewport()->width();
+    QRegion region;
+    for (const QItemSelectionRange &range : selection) {
+        const QRect top = visualRect(range.topLeft());
+        const QRect bottom = visualRect(range.bottomRight());
+        region += QRect(QPoint(0, top.top()), QPoint(width, bottom.bottom()));
+    }
+    return region;
+}
+
+void ReportView::scrollContentsBy(int dx, int) {
+    if (dx != 0)
+        header_->setOffset(horizontalScrollBar()->value());
+    viewport()->update();
+}
+
+void ReportView::updateGeometries() {
+    const int height = header_->sizeHint().height();
+    setViewportMargins(0, height, 0, 0);
+    const QRect area = viewport()->geometry();
+    header_->setGeometry(area.left(), area.top() - height, area.width(), height);
+    verticalScrollBar()->setPageStep(fullyVisibleRows());
+    verticalScrollBar()->setRange(0, std::max(0, rowCount() - fullyVisibleRows()));
+    horizontalScrollBar()->setPageStep(area.width());
+    horizontalScrollBar()->setSingleStep(std::max(1, area.width() / 8));
+    horizontalScrollBar()->setRange(0, std::max(0, header_->length() - area.width()));
+    QAbstractItemView::updateGeometries();
+}
+
+void ReportView::paintEvent(QPaintEvent *event) {
+    QPainter painter(viewport());
+    const int first = rowAt(event->rect().top());
+    if (first < 0)
+        return;
+    const int under = rowAt(event->rect().bottom());
+    const int last = under < 0 ? rowCount() - 1 : under;
+    for (int row = first; row <= last; ++row)
+        paintRow(painter, row);
+}
+
+void ReportView::paintRow(QPainter &painter, int row) {
+    QStyleOptionViewItem option;
+    initViewItemOption(&option);
+    option.rect =
+        QRect(0, visualRect(model_->index(row, 0)).top(), viewport()->width(), rowHeight_);
+    option.showDecorationSelected = true;
+    option.features.setFlag(QStyleOptionViewItem::Alternate, row % 2 == 1);
+    option.state.setFlag(QStyle::State_Selected, selectionModel()->isRowSelected(row));
+    option.state.setFlag(QStyle::State_HasFocus, false);
+    style()->drawPrimitive(QStyle::PE_PanelItemViewRow, &option, &painter, this);
+    if (option.state & QStyle::State_Selected)
+        painter.fillRect(option.rect, option.palette.highlight());
+    for (int column = 0; column < header_->count(); ++column) {
+        const QModelIndex index = model_->index(row, column);
+        option.rect = visualRect(index).adjusted(cellMargin / 2, 0, -cellMargin / 2, 0);
+        itemDelegateForIndex(index)->paint(&painter, option, index);
+    }
+    if (hasFocus() && currentIndex().row() == row) {
+        painter.setPen(QPen(option.palette.text().color(), 1, Qt::DotLine));
+        painter.drawRect(0, visualRect(currentIndex()).top(), viewport()->width() - 1,
+                         rowHeight_ - 1);
+    }
+}
+
+void ReportView::keyPressEvent(QKeyEvent *event) {
+    const QModelIndex before = currentIndex();
+    QAbstractItemView::keyPressEvent(event);
+    tellMoveFrom(before);
+}
+
+void ReportView::mousePressEvent(QMouseEvent *event) {
+    QAbstractItemView::mousePressEvent(event);
+    const QModelIndex index = indexAt(event->position().toPoint());
+    if (event->button() == Qt::LeftButton && index.isValid())
+        emit rowClicked(index.row() + 1);
+}
+
+void ReportView::mouseMoveEvent(QMouseEvent *event) {
+    const QModelIndex before = currentIndex();
+    QAbstractItemView::mouseMoveEvent(event);
+    tellMoveFrom(before);
+}
+
+void ReportView::tellMoveFrom(const QModelIndex &before) {
+    const QModelIndex now = currentIndex();
+    if (now.isValid() && now.row() != before.row())
+        emit rowClicked(now.row() + 1);
+}
+
+} // namespace boulix

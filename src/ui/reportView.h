@@ -1,0 +1,83 @@
+// SPDX-FileCopyrightText: The Boulix developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <QAbstractItemView>
+
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+class QHeaderView;
+
+namespace boulix {
+
+class reportList;
+class ReportListModel;
+
+/// A list in report view: a header, and rows that are selected as a whole. Nothing is kept for a
+/// single row, so that fourteen million rows appear as quickly as ten. The column widths follow
+/// the sample texts; what is selected can be copied, its columns parted by tabs.
+class ReportView : public QAbstractItemView {
+    Q_OBJECT
+
+  public:
+    /// Shows `list`, which must live longer than the view.
+    explicit ReportView(reportList &list, QWidget *parent = nullptr);
+    ~ReportView() override;
+
+    QHeaderView *header() const { return header_; }
+    /// The selected rows, counted from 1 at the top of the list as it is shown, ascending.
+    std::vector<std::int64_t> selectedRows() const;
+    /// The width at which all columns and the scroll bar have their room.
+    int fullWidth() const;
+    int rowHeight() const { return rowHeight_; }
+
+    QRect visualRect(const QModelIndex &index) const override;
+    QModelIndex indexAt(const QPoint &point) const override;
+    void scrollTo(const QModelIndex &index, ScrollHint hint = EnsureVisible) override;
+    void keyboardSearch(const QString &) override {}
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+  signals:
+    /// The user has clicked the row, or gone to it with the keyboard. Counted from 1.
+    void rowClicked(qint64 row);
+    /// The user has clicked the header of a column, counted from 0.
+    void headerClicked(int column);
+
+  protected:
+    void reset() override;
+    void paintEvent(QPaintEvent *event) override;
+    void changeEvent(QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void scrollContentsBy(int dx, int dy) override;
+    void updateGeometries() override;
+    QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
+    int horizontalOffset() const override;
+    int verticalOffset() const override;
+    bool isIndexHidden(const QModelIndex &) const override { return false; }
+    void setSelection(const QRect &rect, QItemSelectionModel::SelectionFlags command) override;
+    QRegion visualRegionForSelection(const QItemSelection &selection) const override;
+
+  private:
+    void makeHeader();
+    void makeCopyActions();
+    void sizeColumns();
+    void paintRow(QPainter &painter, int row);
+    int rowCount() const;
+    int rowAt(int y) const;
+    int fullyVisibleRows() const;
+    void tellMoveFrom(const QModelIndex &before);
+    void copySelected() const;
+    void copyAll() const;
+
+    std::unique_ptr<ReportListModel> model_;
+    QHeaderView *header_;
+    int rowHeight_ = 1;
+};
+
+} // namespace boulix

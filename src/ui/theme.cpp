@@ -1,0 +1,139 @@
+// SPDX-FileCopyrightText: The Boulix developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "ui/theme.h"
+
+#include <QApplication>
+#include <QStyleFactory>
+
+#include <utility>
+
+namespace boulix::theme {
+
+namespace {
+
+/// The colours that tell the two palettes apart; all others follow from them.
+struct Shades {
+    QColor window, base, alternate, button, text, muted, highlight, link;
+};
+
+QPalette paletteOf(const Shades &s) {
+    QPalette p(s.text, s.button, blend(s.button, Qt::white, 0.5), blend(s.button, Qt::black, 0.4),
+               blend(s.button, Qt::black, 0.2), s.text, Qt::white, s.base, s.window);
+    p.setColor(QPalette::Midlight, blend(s.button, Qt::white, 0.25));
+    p.setColor(QPalette::AlternateBase, s.alternate);
+    p.setColor(QPalette::ToolTipBase, s.base);
+    p.setColor(QPalette::ToolTipText, s.text);
+    p.setColor(QPalette::PlaceholderText, s.muted);
+    p.setColor(QPalette::Highlight, s.highlight);
+    p.setColor(QPalette::HighlightedText, Qt::white);
+    p.setColor(QPalette::Link, s.link);
+    p.setColor(QPalette::LinkVisited, s.link);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        p.setColor(QPalette::Disabled, role, s.muted);
+    p.setColor(QPalette::Disabled, QPalette::Highlight, blend(s.base, s.muted, 0.35));
+    p.setColor(QPalette::Disabled, QPalette::HighlightedText, s.text);
+    return p;
+}
+
+/// What makes the controls flat. "@name" stands for a colour of the palette.
+constexpr const char16_t *flatSheet = uR"(
+QPushButton { background: @button; border: 1px solid @edge; border-radius: 5px;
+              padding: 5px 14px; color: @text; }
+QPushButton:hover { background: @hover; }
+QPushButton:pressed { background: @pressed; }
+QPushButton:default { background: @highlight; border-color: @highlight; color: white; }
+QPushButton:default:hover { background: @highlightHover; }
+QPushButton:focus { border: 2px solid @text; padding: 4px 13px; }
+QPushButton:disabled { background: @window; border-color: @faint; color: @muted; }
+
+QToolBar { background: @window; border: none; padding: 4px 8px; spacing: 2px; }
+QToolBar QToolButton { border: 1px solid transparent; border-radius: 5px; padding: 4px 9px; }
+QToolBar QToolButton:hover { background: @hover; }
+QToolBar QToolButton:pressed { background: @pressed; }
+QToolBar QToolButton:focus { border-color: @text; }
+
+QTabBar::tab { background: transparent; border: none; border-bottom: 3px solid transparent;
+               padding: 7px 12px 5px 12px; color: @text; }
+QTabBar::tab:hover { background: @hover; }
+QTabBar::tab:selected { border-bottom-color: @accent; }
+QTabBar::tab:selected:focus { background: @pressed; }
+
+QHeaderView { background: @window; }
+QHeaderView::section { background: @window; border: none; border-right: 1px solid @faint;
+                       border-bottom: 1px solid @edge; padding: 4px 6px; }
+QStatusBar { border-top: 1px solid @faint; }
+QStatusBar::item { border: none; }
+)";
+
+QString styleSheetFor(const QPalette &palette) {
+    const QColor window = palette.color(QPalette::Active, QPalette::Window);
+    const QColor text = palette.color(QPalette::Active, QPalette::WindowText);
+    const QColor highlight = palette.color(QPalette::Active, QPalette::Highlight);
+    const bool dark = isDark(palette);
+    const QColor button = dark ? palette.color(QPalette::Active, QPalette::Button) : Qt::white;
+    // The longer name comes before one that it begins with.
+    const std::pair<const char16_t *, QColor> colours[] = {
+        {u"@highlightHover", blend(highlight, text, 0.2)},
+        {u"@highlight", highlight},
+        {u"@hover", blend(window, text, 0.08)},
+        {u"@pressed", blend(window, text, 0.15)},
+        {u"@button", button},
+        {u"@edge", blend(window, text, 0.32)},
+        {u"@faint", blend(window, text, 0.14)},
+        {u"@muted", palette.color(QPalette::Disabled, QPalette::WindowText)},
+        {u"@window", window},
+        {u"@accent", accent},
+        {u"@text", text},
+    };
+    QString sheet = QString::fromUtf16(flatSheet);
+    for (const auto &[name, colour] : colours)
+        sheet.replace(QString::fromUtf16(name), colour.name());
+    return sheet;
+}
+
+} // namespace
+
+QColor blend(const QColor &ground, const QColor &over, qreal part) {
+    const auto mix = [part](int a, int b) { return qRound(a + (b - a) * part); };
+    return QColor(mix(ground.red(), over.red()), mix(ground.green(), over.green()),
+                  mix(ground.blue(), over.blue()));
+}
+
+QPalette lightPalette() {
+    return paletteOf({.window = {0xf3, 0xf5, 0xf4},
+                      .base = {0xff, 0xff, 0xff},
+                      .alternate = {0xf4, 0xf8, 0xf6},
+                      .button = {0xf0, 0xf2, 0xf1},
+                      .text = {0x26, 0x2c, 0x38},
+                      .muted = {0x8a, 0x91, 0x9b},
+                      .highlight = {0x26, 0x79, 0x4f},
+                      .link = {0x1f, 0x6b, 0x45}});
+}
+
+QPalette darkPalette() {
+    return paletteOf({.window = {0x2b, 0x2d, 0x31},
+                      .base = {0x1f, 0x21, 0x24},
+                      .alternate = {0x26, 0x29, 0x2c},
+                      .button = {0x36, 0x39, 0x3e},
+                      .text = {0xe6, 0xe9, 0xec},
+                      .muted = {0x80, 0x86, 0x8e},
+                      .highlight = {0x26, 0x79, 0x4f},
+                      .link = {0x6f, 0xcf, 0x9f}});
+}
+
+bool isDark(const QPalette &palette) {
+    return palette.color(QPalette::Window).lightness() < 128;
+}
+
+void apply(QApplication &application) {
+    apply(application, isDark(QApplication::palette()) ? darkPalette() : lightPalette());
+}
+
+void apply(QApplication &application, const QPalette &palette) {
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setPalette(palette);
+    application.setStyleSheet(styleSheetFor(palette));
+}
+
+} // namespace boulix::theme

@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: The Boulix developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <QWidget>
+
+class QLabel;
+class QToolButton;
+
+namespace boulix {
+
+/// A pair of small arrow buttons that move a value within its range; a label beside it shows the
+/// value. The arrow keys move it too.
+class UpDownView : public QWidget {
+    Q_OBJECT
+
+  public:
+    explicit UpDownView(QWidget *parent = nullptr);
+
+    int value() const { return value_; }
+    void setRange(int first, int last);
+    void setValue(int value);
+    /// The label that shows the value from now on.
+    void setBuddy(QLabel *label);
+
+  signals:
+    void valueChanged(int value);
+
+  protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+  private:
+    QToolButton *makeArrow(Qt::ArrowType arrow, int step);
+    void refresh();
+
+    QToolButton *up_;
+    QToolButton *down_;
+    QLabel *buddy_ = nullptr;
+    int first_ = 0;
+    int last_ = 100;
+    int value_ = 0;
+};
+
+} // namespace boulix

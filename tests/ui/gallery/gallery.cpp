@@ -1,0 +1,164 @@
+// SPDX-FileCopyrightText: The Boulix developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// Pictures of every window, for the eye: `boulix_gallery FOLDER [dark]`. QT_SCALE_FACTOR and
+// QT_QPA_PLATFORM=offscreen are the environment's to set.
+
+#include "core/appInfo.h"
+#include "core/desktop.h"
+#include "core/frmNbrSelector.h"
+#include "core/frmProgress.h"
+#include "core/globals.h"
+#include "core/platform.h"
+#include "core/reportList.h"
+#include "draws/dbCombs.h"
+#include "support/files.h"
+#include "support/locations.h"
+#include "ui/application.h"
+#include "ui/creditPicture.h"
+#include "ui/frmAbout.h"
+#include "ui/frmSelDate.h"
+#include "ui/frmSplash.h"
+#include "ui/mainWindow.h"
+#include "ui/numberBoardView.h"
+#include "ui/numberDialog.h"
+#include "ui/progressWindow.h"
+#include "ui/qtDesktop.h"
+#include "ui/qtPlatform.h"
+#include "ui/reportView.h"
+#include "ui/theme.h"
+#include "workbench/frmMain.h"
+
+#include <QDir>
+#include <QPixmap>
+
+#include <initializer_list>
+
+using namespace boulix;
+namespace support = boulix::testing_support;
+
+namespace {
+
+/// Imports the sample history without asking, and keeps the data in a folder of its own.
+class GalleryDesktop : public QtDesktop {
+    std::string openFile(const FileQuestion &) override {
+        return support::operatorHistory().value_or(support::sampleHistory()).string();
+    }
+};
+
+class GalleryPlatform : public QtPlatform {
+  public:
+    using QtPlatform::QtPlatform;
+    std::string applicationFolder() const override { return folder_.path(); }
+
+  private:
+    support::TemporaryFolder folder_;
+};
+
+void keep(QWidget &window, const QString &name) {
+    window.show();
+    QApplication::processEvents();
+    QApplication::processEvents();
+    window.grab().save(name + QStringLiteral(".png"));
+    window.hide();
+}
+
+void mark(NumberBoard &board, std::initializer_list<std::int16_t> numbers, std::int16_t compl_) {
+    for (const std::int16_t n : numbers)
+        board.selectNumber(n);
+    if (compl_ != 0)
+        board.selectComplementary(compl_);
+}
+
+void keepBoards() {
+    NumberBoard board;
+    mark(board, {31, 15, 33, 27, 36, 48}, 34);
+    NumberBoardView view(board);
+    view.resize(230, 300);
+    keep(view, QStringLiteral("board-open-small"));
+    view.resize(400, 560);
+    keep(view, QStringLiteral("board-open-large"));
+    board.editable(false);
+    view.resize(320, 420);
+    keep(view, QStringLiteral("board-closed"));
+}
+
+void keepDialogs() {
+    frmNbrSelector selector;
+    mark(selector.grd, {3, 9, 17, 28, 40}, 0);
+    NumberDialog numbers(selector);
+    keep(numbers, QStringLiteral("frmNbrSelector"));
+    frmSelDate date;
+    keep(date, QStringLiteral("frmSelDate"));
+
+    frmProgress progress;
+    progress.caption = "Importation des tirages...";
+    progress.lblInfo = "Lecture du fichier historique-exemple.txt";
+    progress.ProgressBar.value = 42;
+    progress.ProgressBar2.value = 75;
+    ProgressWindow window(progress);
+    keep(window, QStringLiteral("frmProgress"));
+}
+
+void keepIdentity() {
+    appInfo &info = *gAppInfo;
+    info.init("Attention!!! Ce logiciel constitue une aide au jeu mais ne saurait en aucun cas "
+              "garantir les gains. L'auteur décline toute responsabilité en cas de pertes d'argent "
+              "qui auraient pu être dues à l'utilisation de ce produit. En revanche, en cas de "
+              "gros gains, pensez à lui!!!",
+              "Marcel Quillon", "Quillon Logiciels", 2003);
+    frmAbout about(info);
+    for (int i = 0; i < 20; ++i)
+        about.tick();
+    keep(about, QStringLiteral("frmAbout"));
+
+    frmSplash splash({"Version " + info.version(), info.name(), info.company(), "(c) 2003",
+                      "Windows 98, ME, NT, 2000, XP", info.disclaimer()});
+    keep(splash, QStringLiteral("frmSplash"));
+    splash.offerToClose();
+    keep(splash, QStringLiteral("frmSplash-failed"));
+}
+
+void keepList() {
+    reportList list;
+    list.columns({{"Date", " 00/00/0000 ", false}, {"T", " 000 ", true}, {"1", " 000 ", true}});
+    list.rows(14'000'000, [](std::int64_t row, int column) {
+        return column == 0 ? std::string("19/05/1976") : std::to_string((row + column) % 49 + 1);
+    });
+    ReportView view(list);
+    view.resize(view.fullWidth(), 300);
+    view.setCurrentIndex(view.model()->index(3, 0));
+    keep(view, QStringLiteral("list"));
+}
+
+void keepMainWindow() {
+    gDbCombs->dbFile().path(platform().applicationFolder());
+    gDbCombs->dbFile().name("tirages.dbl");
+    gDbCombs->ImportFdjFile();
+    mainWindow->load();
+    MainWindow window(*mainWindow);
+    keep(window, QStringLiteral("frmMain"));
+    window.resize(window.minimumSizeHint());
+    keep(window, QStringLiteral("frmMain-smallest"));
+}
+
+} // namespace
+
+int main(int argc, char **argv) {
+    GalleryPlatform platform(argc, argv);
+    setPlatform(&platform);
+    Application application(argc, argv);
+    GalleryDesktop desktop;
+    setDesktop(&desktop);
+    const QStringList arguments = Application::arguments();
+    if (arguments.size() < 2 || !QDir().mkpath(arguments[1]) || !QDir::setCurrent(arguments[1]))
+        return 64;
+    if (arguments.contains(QStringLiteral("dark")))
+        theme::apply(application, theme::darkPalette());
+    keepBoards();
+    keepDialogs();
+    keepIdentity();
+    keepList();
+    keepMainWindow();
+    resetGlobals();
+}
