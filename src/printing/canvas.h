@@ -29,7 +29,7 @@ class Canvas {
     /// The font of texts: its name and its size in points.
     virtual void font(const std::string &name, double points) = 0;
 
-    /// How wide `text` is in the present font, and how far its lines are apart.
+    /// How wide `text` is in the present font, and how high a line is.
     virtual double textWidth(const std::string &text) const = 0;
     virtual double textHeight(const std::string &text) const = 0;
 

@@ -18,7 +18,7 @@ constexpr const char *priceKey = "prix_grille";
 } // namespace
 
 void gridConfig::load() {
-    monneyUnit_ = settingText(section, unitKey, "euro");
+    monneyUnit_ = settings::read(section, unitKey, "euro");
     price_ = settingNumber(section, priceKey, "0.6");
 }
 

@@ -39,9 +39,7 @@ bool sameDevice(const std::string &a, const std::string &b) {
 }
 
 void loadDirection() {
-    std::string word = upperCased(trimmed(settingText(section, directionKey, "haut")));
-    if (!word.empty() && word.back() == '\0')
-        word.pop_back();
+    const std::string word = upperCased(trimmed(settings::read(section, directionKey, "haut")));
     direction = directionUp;
     const auto entry = std::find(directionTable.begin(), directionTable.end(), word);
     if (entry != directionTable.end())
@@ -73,7 +71,7 @@ void currentPrinter(const std::string &deviceName) {
 }
 
 void loadSettings() {
-    const std::string saved = settingText(section, printerKey, "no_printer");
+    const std::string saved = settings::read(section, printerKey, "no_printer");
     offset_X = settingNumber(section, offsetXKey, "0.");
     offset_Y = settingNumber(section, offsetYKey, "0.");
     loadDirection();
@@ -108,8 +106,8 @@ std::int16_t printerCheck() {
     return -1;
 }
 
-std::unique_ptr<Paper> openDocument(const std::string &title) {
-    return printerSystem().openDocument(currentPrinter(), title);
+std::unique_ptr<Paper> openDocument(const std::string &title, Sides sides) {
+    return printerSystem().openDocument(currentPrinter(), title, sides);
 }
 
 void printBanner(TextReport &report) {
@@ -127,7 +125,7 @@ void printBanner(TextReport &report) {
 std::optional<TextReport> startReport(const std::string &title) {
     if (printerCheck() != 0)
         return std::nullopt;
-    TextReport report(openDocument(title));
+    TextReport report(openDocument(title, Sides::asPrinterIsSet));
     printBanner(report);
     return report;
 }
@@ -135,7 +133,7 @@ std::optional<TextReport> startReport(const std::string &title) {
 void printCanvas() {
     if (printerCheck() != 0)
         return;
-    const auto paper = openDocument("Boulix - canevas");
+    const auto paper = openDocument("Boulix - canevas", Sides::one);
     const std::string hint = "Haut de la grille ici";
     paper->color(black);
     paper->penWidth(2);

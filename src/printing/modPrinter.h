@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "printing/printerSystem.h"
 #include "printing/textReport.h"
 
 #include <array>
@@ -50,7 +51,7 @@ void printerDialog();
 std::int16_t printerCheck();
 
 /// Opens a document on the current printer. `title` is what the print queue shows.
-std::unique_ptr<Paper> openDocument(const std::string &title);
+std::unique_ptr<Paper> openDocument(const std::string &title, Sides sides);
 
 /// The head of a text report: the application's name between two lines of stars.
 void printBanner(TextReport &report);

@@ -14,6 +14,9 @@ namespace boulix {
 class frmPrint;
 class frmPrintGridPreview;
 
+/// Whether the pages of a document may share a sheet: one page a sheet, or as the printer is set.
+enum class Sides { one, asPrinterIsSet };
+
 /// The printers of the system. The screens give the real one, the tests a recording one.
 class PrinterSystem {
   public:
@@ -26,7 +29,7 @@ class PrinterSystem {
     /// Opens a document on the printer with this device name. `title` is what the queue shows.
     /// A printer that is not there any more fails with `Failure::printerError`.
     virtual std::unique_ptr<Paper> openDocument(const std::string &printer,
-                                                const std::string &title) = 0;
+                                                const std::string &title, Sides sides) = 0;
 };
 
 /// The printers in use; `setPrinterSystem` comes first, and keeps a reference only.

@@ -7,12 +7,8 @@
 
 namespace boulix {
 
-/// The value of a key of the settings file, as `settings::read`, at most 1,023 characters of it.
-std::string settingText(const std::string &section, const std::string &key,
-                        const std::string &defaultValue);
-
-/// The number at the start of such a value, with a dot whatever the system's regional settings;
-/// 0 where there is none, or none that single precision can hold.
+/// The number at the start of a value of the settings file, with a dot whatever the regional
+/// settings; 0 where there is none, or none that single precision can hold.
 float settingNumber(const std::string &section, const std::string &key,
                     const std::string &defaultValue);
 

@@ -6,6 +6,8 @@
 #include "core/globals.h"
 #include "core/modMaths.h"
 #include "draws/dbCombs.h"
+#include "printing/gridConfig.h"
+#include "printing/modPrinter.h"
 #include "stats/statStores.h"
 #include "stats/statTypes.h"
 #include "winnings/rapport.h"
@@ -19,8 +21,8 @@ const std::vector<StartUpStep> &startUpSteps() {
         {"Initialisation des paramètres graphiques des statistiques", nullptr},
         {"Initialisation des types de jeu", modStats::InitTripletTable},
         {"Chargement des jeux réduits utilisateur", nullptr},
-        {"Initialisation des paramètres d'impression", nullptr},
-        {"Initialisation des paramètres de grille", nullptr},
+        {"Initialisation des paramètres d'impression", modPrinter::loadSettings},
+        {"Initialisation des paramètres de grille", [] { gGridConfig->load(); }},
         {"Chargement en mémoire de la base de données des tirages", [] { gDbCombs->load(); }},
         {"Chargement du fichier de rapport par défaut", [] { gRapport->loadDefFile(); }},
         {"Initialisation des éliminateurs", nullptr, true},

@@ -19,7 +19,9 @@ constexpr double millimetresPerPoint = 25.4 / 72;
 
 class TextReportTest : public ::testing::Test {
   protected:
-    TextReport newReport() { return TextReport(printers.openDocument("Bureau", "essai")); }
+    TextReport newReport() {
+        return TextReport(printers.openDocument("Bureau", "essai", Sides::one));
+    }
     const PrintedDocument &document() { return printers.documents.back(); }
     /// Characters as wide as `count` of them fill a line of the sheet in the font of size 10.
     void charactersPerLine(int count) {

@@ -6,6 +6,7 @@
 #include "core/globals.h"
 #include "core/modMain.h"
 #include "core/modMaths.h"
+#include "printing/modPrinter.h"
 
 namespace boulix::testing_support {
 
@@ -17,6 +18,10 @@ void forgetTheLastRun() {
     modMain::gDebug = false;
     modMain::gLogFile = std::ofstream();
     modMain::gCurrentDir.clear();
+    modPrinter::offset_X = 0;
+    modPrinter::offset_Y = 0;
+    modPrinter::direction = modPrinter::directionUp;
+    modPrinter::currentPrinter("");
 }
 
 } // namespace
@@ -24,6 +29,8 @@ void forgetTheLastRun() {
 FreshProgramTest::FreshProgramTest() {
     setDesktop(&desktop);
     setPlatform(&platform);
+    setPrinterSystem(&printers);
+    setPrintWindows(&printWindows);
     forgetTheLastRun();
 }
 
@@ -33,6 +40,8 @@ FreshProgramTest::~FreshProgramTest() {
     forgetTheLastRun(); // before the platform: a log may lie in its folder
     setDesktop(nullptr);
     setPlatform(nullptr);
+    setPrinterSystem(nullptr);
+    setPrintWindows(nullptr);
 }
 
 BoulixTest::BoulixTest() {

@@ -5,7 +5,9 @@
 #include "core/failure.h"
 #include "support/fakePlatform.h"
 #include "support/files.h"
+#include "support/recordingPrinters.h"
 #include "support/scriptedDesktop.h"
+#include "support/scriptedPrintWindows.h"
 
 #include <gtest/gtest.h>
 
@@ -15,8 +17,8 @@
 
 namespace boulix::testing_support {
 
-/// A program that has just been started: a scripted desktop and a settable platform stand behind
-/// the window sill, no global object is there yet, no log, no current folder.
+/// A program that has just been started: a scripted desktop, a settable platform and recording
+/// printers stand behind the window sill, no global object is there yet, no log, no current folder.
 class FreshProgramTest : public ::testing::Test {
   protected:
     FreshProgramTest();
@@ -30,6 +32,8 @@ class FreshProgramTest : public ::testing::Test {
 
     ScriptedDesktop desktop;
     FakePlatform platform;
+    RecordingPrinters printers;
+    ScriptedPrintWindows printWindows;
 };
 
 /// The usual fixture: identity, binomial table and current folder are there, as the start-up

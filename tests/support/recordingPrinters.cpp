@@ -47,12 +47,13 @@ const PrintedDocument &RecordingPrinters::onlyDocument() const {
 }
 
 std::unique_ptr<Paper> RecordingPrinters::openDocument(const std::string &printer,
-                                                       const std::string &title) {
+                                                       const std::string &title, Sides sides) {
     if (std::find(names.begin(), names.end(), printer) == names.end())
         fail(Failure::printerError);
     PrintedDocument &document = documents.emplace_back();
     document.printer = printer;
     document.title = title;
+    document.sides = sides;
     document.metrics = metrics;
     return std::make_unique<RecordingPaper>(document, *this);
 }

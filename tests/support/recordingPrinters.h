@@ -16,6 +16,7 @@ namespace boulix::testing_support {
 struct PrintedDocument : Recording {
     std::string printer;
     std::string title;
+    Sides sides = Sides::asPrinterIsSet;
     int pages = 1;
     bool ended = false;   ///< sent to the printer
     bool dropped = false; ///< given up before its end
@@ -41,8 +42,8 @@ class RecordingPrinters : public PrinterSystem {
 
     std::vector<std::string> printers() const override { return names; }
     std::string defaultPrinter() const override { return standard; }
-    std::unique_ptr<Paper> openDocument(const std::string &printer,
-                                        const std::string &title) override;
+    std::unique_ptr<Paper> openDocument(const std::string &printer, const std::string &title,
+                                        Sides sides) override;
 };
 
 } // namespace boulix::testing_support
