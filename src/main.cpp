@@ -4,6 +4,7 @@
 #include "core/modMain.h"
 #include "core/reports.h"
 #include "ui/application.h"
+#include "ui/printing/qtPrinterSystem.h"
 #include "ui/qtDesktop.h"
 #include "ui/qtPlatform.h"
 
@@ -13,6 +14,8 @@ int main(int argc, char **argv) {
     boulix::Application application(argc, argv);
     boulix::QtDesktop desktop;
     boulix::setDesktop(&desktop);
+    boulix::QtPrinterSystem printers;
+    boulix::setPrinterSystem(&printers);
 
     boulix::runCommand(boulix::modMain::Main);
     const bool onScreen = desktop.startEnded();

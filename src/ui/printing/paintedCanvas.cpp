@@ -1,0 +1,87 @@
+// SPDX-FileCopyrightText: The Boulix developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "ui/printing/paintedCanvas.h"
+
+#include "ui/qtText.h"
+
+#include <QFontMetricsF>
+#include <QPaintDevice>
+#include <QPainter>
+#include <QPen>
+
+namespace boulix {
+
+namespace {
+
+constexpr double millimetresPerPoint = 25.4 / 72;
+constexpr double pointsPerInch = 72;
+
+} // namespace
+
+template <class Base>
+void PaintedCanvas<Base>::color(Color color) {
+    color_ = QColor(color.red, color.green, color.blue);
+}
+
+template <class Base>
+void PaintedCanvas<Base>::penWidth(int dots) {
+    penWidth_ = dots * scale_.unitsPerDot;
+}
+
+/// The size in points is that of the canvas: a picture that is shown larger has larger letters.
+template <class Base>
+void PaintedCanvas<Base>::font(const std::string &name, double points) {
+    const double units = points * millimetresPerPoint * scale_.unitsPerMillimetre;
+    font_ = QFont(toQt(name));
+    font_.setPointSizeF(units * pointsPerInch / painter_.device()->logicalDpiY());
+    // Letters keep their exact widths at any resolution.
+    font_.setHintingPreference(QFont::PreferNoHinting);
+}
+
+template <class Base>
+double PaintedCanvas<Base>::textWidth(const std::string &text) const {
+    const QFontMetricsF metrics(font_, painter_.device());
+    return metrics.horizontalAdvance(toQt(text)) / scale_.unitsPerMillimetre;
+}
+
+template <class Base>
+double PaintedCanvas<Base>::textHeight(const std::string &) const {
+    return QFontMetricsF(font_, painter_.device()).height() / scale_.unitsPerMillimetre;
+}
+
+template <class Base>
+void PaintedCanvas<Base>::text(double x, double y, const std::string &text) {
+    const double ascent = QFontMetricsF(font_, painter_.device()).ascent();
+    painter_.setFont(font_);
+    painter_.setPen(color_);
+    painter_.drawText(toDevice(x, y) + QPointF(0, ascent), toQt(text));
+}
+
+template <class Base>
+void PaintedCanvas<Base>::line(double x1, double y1, double x2, double y2) {
+    usePen();
+    painter_.drawLine(toDevice(x1, y1), toDevice(x2, y2));
+}
+
+template <class Base>
+void PaintedCanvas<Base>::box(double x1, double y1, double x2, double y2) {
+    usePen();
+    painter_.setBrush(Qt::NoBrush);
+    painter_.drawRect(QRectF(toDevice(x1, y1), toDevice(x2, y2)));
+}
+
+template <class Base>
+QPointF PaintedCanvas<Base>::toDevice(double x, double y) const {
+    return scale_.origin + QPointF(x, y) * scale_.unitsPerMillimetre;
+}
+
+template <class Base>
+void PaintedCanvas<Base>::usePen() {
+    painter_.setPen(QPen(color_, penWidth_, Qt::SolidLine, Qt::RoundCap, Qt::MiterJoin));
+}
+
+template class PaintedCanvas<Picture>;
+template class PaintedCanvas<Paper>;
+
+} // namespace boulix
