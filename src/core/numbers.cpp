@@ -55,9 +55,12 @@ double toDouble(std::string_view number) {
     double value = 0;
     const auto result = std::from_chars(number.data(), number.data() + number.size(), value,
                                         std::chars_format::fixed);
-    if (result.ec == std::errc::result_out_of_range)
+    if (result.ec != std::errc::result_out_of_range)
+        return value;
+    // Too large for a double, or, with nothing but zeros before the dot, too small.
+    if (number.find_first_of("123456789") < number.find('.'))
         fail(Failure::overflow);
-    return value;
+    return 0;
 }
 
 } // namespace

@@ -54,7 +54,10 @@ namespace boulix {
 using testing_support::BoulixTest;
 using testing_support::failureNumber;
 using testing_support::failureOf;
+using testing_support::fileExists;
 using testing_support::FreshProgramTest;
 using testing_support::NumberScript;
+using testing_support::readBytes;
 using testing_support::ShownBox;
+using testing_support::writeBytes;
 } // namespace boulix
