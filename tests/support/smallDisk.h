@@ -14,7 +14,8 @@ namespace boulix::testing_support {
 /// `mounted` is false, and the test skips with `SmallDisk::whyNot`.
 class SmallDisk {
   public:
-    static constexpr const char *whyNot = "this system lets nobody mount a small disk";
+    static constexpr const char *whyNot =
+        "mounting a small disk takes root's rights, in a container too";
 
     /// A disk of `bytes`, taken up to whole pages of 4096.
     explicit SmallDisk(std::size_t bytes);
