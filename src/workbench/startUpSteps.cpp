@@ -6,6 +6,7 @@
 #include "core/globals.h"
 #include "core/modMaths.h"
 #include "draws/dbCombs.h"
+#include "forecasts/pronostics.h"
 #include "printing/gridConfig.h"
 #include "printing/modPrinter.h"
 #include "stats/statStores.h"
@@ -26,7 +27,7 @@ const std::vector<StartUpStep> &startUpSteps() {
         {"Chargement en mémoire de la base de données des tirages", [] { gDbCombs->load(); }},
         {"Chargement du fichier de rapport par défaut", [] { gRapport->loadDefFile(); }},
         {"Initialisation des éliminateurs", nullptr, true},
-        {"Initialisation des pronostiques", nullptr, true},
+        {"Initialisation des pronostiques", [] { gPronostics->init(); }, true},
     };
     return steps;
 }
