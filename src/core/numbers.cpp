@@ -3,7 +3,6 @@
 
 #include "core/numbers.h"
 
-#include "core/failure.h"
 #include "core/text.h"
 
 #include <charconv>
@@ -88,12 +87,6 @@ std::int16_t narrow16(std::int64_t value) {
         value > std::numeric_limits<std::int16_t>::max())
         fail(Failure::overflow);
     return static_cast<std::int16_t>(value);
-}
-
-std::int64_t checkedIndex(std::int64_t index, std::int64_t first, std::int64_t last) {
-    if (index < first || index > last)
-        fail(Failure::subscriptOutOfRange);
-    return index;
 }
 
 double numericPrefix(std::string_view text) {

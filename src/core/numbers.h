@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "core/failure.h"
+
 #include <cstdint>
 #include <string_view>
 
@@ -19,7 +21,11 @@ std::int32_t toInt32(double value);
 std::int16_t narrow16(std::int64_t value);
 
 /// `index` when it lies in `first` to `last`, otherwise `Failure::subscriptOutOfRange`.
-std::int64_t checkedIndex(std::int64_t index, std::int64_t first, std::int64_t last);
+inline std::int64_t checkedIndex(std::int64_t index, std::int64_t first, std::int64_t last) {
+    if (index < first || index > last)
+        fail(Failure::subscriptOutOfRange);
+    return index;
+}
 
 /// The number at the start of `text`: leading blanks, a sign, digits, a decimal part with a dot;
 /// no exponent, no hexadecimal. 0 where the text does not begin with a number.

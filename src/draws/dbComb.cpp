@@ -7,7 +7,6 @@
 #include "core/numbers.h"
 
 #include <algorithm>
-#include <cmath>
 #include <string_view>
 #include <vector>
 
@@ -78,12 +77,6 @@ std::int16_t dbComb::countPair(std::int16_t mode) const {
     for (int i = 1; i <= lotoComb::size; ++i)
         even += isEven(comb_.num(i)) ? 1 : 0;
     return static_cast<std::int16_t>(even);
-}
-
-bool dbComb::isGreater(const dbComb &other) const {
-    const double wholeDay = std::floor(day_);
-    const double otherWholeDay = std::floor(other.day_);
-    return wholeDay > otherWholeDay || (wholeDay == otherWholeDay && id_ > other.id_);
 }
 
 void dbComb::fromString(const std::string &line, const ColumnPositions &columns) {

@@ -7,6 +7,7 @@
 #include "draws/lotoComb.h"
 
 #include <array>
+#include <cmath>
 #include <cstdint>
 #include <string>
 
@@ -36,7 +37,11 @@ class dbComb {
     /// How many of the six numbers are even; the complementary counts only with `mode` 1.
     std::int16_t countPair(std::int16_t mode) const;
     /// Whether this draw is later than `other`: by day, then by draw of the day.
-    bool isGreater(const dbComb &other) const;
+    bool isGreater(const dbComb &other) const {
+        const double wholeDay = std::floor(day_);
+        const double otherWholeDay = std::floor(other.day_);
+        return wholeDay > otherWholeDay || (wholeDay == otherWholeDay && id_ > other.id_);
+    }
     /// Fills day, draw of the day and the seven numbers from a line of the operator's file; the
     /// sums stay. Too few fields, an impossible date or a value beyond 16 bits is a run-time
     /// failure, and the draw is then as far filled as the line was read.

@@ -5,7 +5,6 @@
 
 #include "core/desktop.h"
 #include "core/fileAccess.h"
-#include "core/numbers.h"
 #include "files/slotFile.h"
 
 #include <algorithm>
@@ -64,16 +63,8 @@ dbComb &dbCombs::Add(Date day, std::int16_t id, const lotoComb &comb, bool doSav
     return draws_.back();
 }
 
-const dbComb &dbCombs::Item(std::int64_t index) const {
-    return draws_[static_cast<std::size_t>(checkedIndex(index, 1, Count()) - 1)];
-}
-
-dbComb &dbCombs::Item(std::int64_t index) {
-    return draws_[static_cast<std::size_t>(checkedIndex(index, 1, Count()) - 1)];
-}
-
 void dbCombs::Remove(std::int64_t index) {
-    draws_.erase(draws_.begin() + checkedIndex(index, 1, Count()) - 1);
+    draws_.erase(draws_.begin() + static_cast<std::ptrdiff_t>(offsetOf(index)));
     save();
 }
 
@@ -99,6 +90,7 @@ void dbCombs::load() {
 void dbCombs::save() {
     dbFile_.head().initialize(fileType);
     SlotImage image(slotLength);
+    image.reserve(std::int64_t{Count()} + 1);
     image.write(1, dbFile_.head().toRecord());
     std::int64_t slot = 1;
     for (const dbComb &draw : draws_)

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "core/numbers.h"
 #include "draws/dbComb.h"
 #include "files/xFile.h"
 
@@ -32,8 +33,8 @@ class dbCombs {
     dbComb &Add(Date day, std::int16_t id, const lotoComb &comb, bool doSave,
                 const std::string &key);
     /// The draw at `index`, 1 to `Count`; any other fails with `Failure::subscriptOutOfRange`.
-    const dbComb &Item(std::int64_t index) const;
-    dbComb &Item(std::int64_t index);
+    const dbComb &Item(std::int64_t index) const { return draws_[offsetOf(index)]; }
+    dbComb &Item(std::int64_t index) { return draws_[offsetOf(index)]; }
     std::int32_t Count() const { return static_cast<std::int32_t>(draws_.size()); }
 
     // The draws in collection order.
@@ -68,6 +69,9 @@ class dbCombs {
                           std::vector<std::int32_t> &winsCount);
 
   private:
+    std::size_t offsetOf(std::int64_t index) const {
+        return static_cast<std::size_t>(checkedIndex(index, 1, Count()) - 1);
+    }
     void quickSort(std::int64_t first, std::int64_t last);
     void save();
     /// Appends the draws of the operator's file; false when it was refused or cancelled.

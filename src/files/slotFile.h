@@ -52,6 +52,10 @@ class SlotImage {
   public:
     explicit SlotImage(std::int64_t slotLength) : slotLength_(slotLength) {}
 
+    /// Makes room for so many slots at once: a large image is then never moved while it grows.
+    void reserve(std::int64_t slots) {
+        bytes_.reserve(static_cast<std::size_t>(slots * slotLength_));
+    }
     /// Puts `bytes` at the start of slot `slot`, at or behind the last one written; what lies
     /// between is filled with zeros. Any other slot fails with `Failure::invalidCall`.
     void write(std::int64_t slot, std::string_view bytes);

@@ -151,21 +151,29 @@ TEST_F(DrawSort, AgreesWithThePlainSortOnDaysThatAreNoNumbersOrNotWhole) {
     }
 }
 
-/// Which shapes a base has in life, and which ask most of a sort with a pivot in the middle.
-const std::vector<std::pair<const char *, std::function<double(int, int)>>> shapes = {
-    {"ascending", [](int i, int) { return i; }},
-    {"descending", [](int i, int n) { return n - i; }},
-    {"all equal", [](int, int) { return 1; }},
-    {"up and down", [](int i, int n) { return i < n / 2 ? i : n - i; }},
-    {"twice over, second time backwards", [](int i, int n) { return i < n / 2 ? i : n - 1 - i; }},
-    {"one behind its place", [](int i, int n) { return i == n - 1 ? n / 3 : i; }},
+/// What a base looks like in life, and what asks most of a sort with a pivot in the middle.
+struct Shape {
+    const char *name;
+    double (*dayAt)(int i, int count);
+};
+const Shape shapes[] = {
+    {"ascending", [](int i, int) -> double { return i; }},
+    {"descending", [](int i, int n) -> double { return n - i; }},
+    {"all equal", [](int, int) -> double { return 1; }},
+    {"up and down", [](int i, int n) -> double { return i < n / 2 ? i : n - i; }},
+    {"twice, backwards the second time",
+     [](int i, int n) -> double { return i < n / 2 ? i : n - 1 - i; }},
+    {"one behind its place", [](int i, int n) -> double { return i == n - 1 ? n / 3 : i; }},
 };
 
 TEST_F(DrawSort, AgreesWithThePlainSortOnBasesOfEveryShape) {
-    for (const auto &[name, shape] : shapes)
+    for (const Shape &shape : shapes)
         for (const int count : {2, 3, 10, 101, 4858}) {
-            const auto keys = keysOf(count, [&](int i) { return Key{shape(i, count), 1, 0}; });
-            ASSERT_EQ(sortedMarks(keys), marksOf(plainlySorted(keys))) << name << " " << count;
+            const auto keys = keysOf(count, [&](int i) {
+                return Key{shape.dayAt(i, count), 1, 0};
+            });
+            ASSERT_EQ(sortedMarks(keys), marksOf(plainlySorted(keys)))
+                << shape.name << " " << count;
         }
 }
 
