@@ -32,6 +32,8 @@ const char *describe(Failure failure) {
         return "Fichier introuvable";
     case Failure::deviceError:
         return "Erreur d'entrée/sortie de périphérique";
+    case Failure::badRecordLength:
+        return "Longueur d'enregistrement incorrecte";
     case Failure::diskFull:
         return "Disque plein";
     case Failure::inputPastEnd:

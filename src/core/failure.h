@@ -19,6 +19,7 @@ enum class Failure {
     badFileName = 52,
     fileNotFound = 53,
     deviceError = 57,
+    badRecordLength = 59,
     diskFull = 61,
     inputPastEnd = 62,
     permissionDenied = 70,
