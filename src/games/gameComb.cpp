@@ -4,22 +4,41 @@
 #include "games/gameComb.h"
 
 #include "core/modMaths.h"
-#include "core/numbers.h"
+#include "core/text.h"
+#include "printing/slip.h"
 
 #include <algorithm>
+#include <numeric>
 
 namespace boulix {
 
-std::int16_t gameComb::num(int i) const {
-    return num_[static_cast<std::size_t>(checkedIndex(i, 1, size) - 1)];
+std::int16_t gameComb::total() const {
+    return narrow16(std::accumulate(num_.begin(), num_.end(), std::int64_t{0}));
 }
 
-void gameComb::num(int i, std::int16_t n) {
-    num_[static_cast<std::size_t>(checkedIndex(i, 1, size) - 1)] = n;
+void gameComb::fromString(const std::string &text) {
+    sum_ = 0;
+    int p = 1;
+    std::string rest = text;
+    for (auto bar = rest.find('/'); bar != std::string::npos; bar = rest.find('/')) {
+        num(p, toInt16(wholeNumberText(rest.substr(0, bar))));
+        rest = trimmed(rest.substr(bar + 1));
+        sum_ = narrow16(sum_ + num(p));
+        ++p;
+    }
+    if (p > size)
+        return;
+    num(size, toInt16(wholeNumberText(rest)));
+    sum_ = narrow16(sum_ + num(p));
 }
 
 void gameComb::sort() {
     std::sort(num_.begin(), num_.end());
+}
+
+void gameComb::Draw(std::int16_t gridNumber, Canvas &canvas, std::int16_t mode,
+                    std::int32_t slipFrame) const {
+    slip::drawGrid(canvas, num_, gridNumber, {mode, slipFrame});
 }
 
 namespace modMaths {

@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: The Boulix developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "games/game.h"
+
+#include "core/failure.h"
+
+#include <algorithm>
+
+namespace boulix {
+
+gameComb &game::Add(const GridRef &item, const std::string &key) {
+    keys_.add(key, Count() + 1);
+    grids_.push_back(item ? item : GridRef(gameComb()));
+    return *grids_.back();
+}
+
+void game::Remove(std::int64_t index) {
+    grids_.erase(grids_.begin() + static_cast<std::ptrdiff_t>(place(index)));
+    keys_.removed(index);
+}
+
+void game::Remove(const std::vector<std::int64_t> &ascending) {
+    // All grids removed before stand in front of the next one: it has moved down by their count.
+    std::int64_t removed = 0;
+    std::size_t kept = 0;
+    std::size_t next = 0;
+    for (const std::int64_t index : ascending) {
+        if (index < 1 || index > Count() - removed)
+            break;
+        keys_.removed(index);
+        const auto at = static_cast<std::size_t>(index - 1 + removed);
+        while (next < at)
+            grids_[kept++] = std::move(grids_[next++]);
+        ++next;
+        ++removed;
+    }
+    grids_.erase(std::move(grids_.begin() + static_cast<std::ptrdiff_t>(next), grids_.end(),
+                           grids_.begin() + static_cast<std::ptrdiff_t>(kept)),
+                 grids_.end());
+    if (removed < static_cast<std::int64_t>(ascending.size()))
+        fail(Failure::subscriptOutOfRange);
+}
+
+void game::clear() {
+    grids_.clear();
+    grids_.shrink_to_fit();
+    keys_.clear();
+}
+
+} // namespace boulix

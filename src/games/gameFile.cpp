@@ -1,0 +1,103 @@
+// SPDX-FileCopyrightText: The Boulix developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "core/appInfo.h"
+#include "core/desktop.h"
+#include "core/frmProgress.h"
+#include "core/globals.h"
+#include "core/modMaths.h"
+#include "files/modFileSelector.h"
+#include "files/slotFile.h"
+#include "files/xFile.h"
+#include "games/game.h"
+
+#include <optional>
+
+namespace boulix {
+
+namespace {
+
+constexpr auto fileFilter = "Fichier jeu Boulix (*.lst)|*.lst";
+constexpr auto fileType = static_cast<std::int32_t>(FileType::gameSet);
+
+std::string gridRecord(const gameComb &grid) {
+    std::string record;
+    for (const std::int16_t n : grid.numbers())
+        appendInt16(record, n);
+    appendInt16(record, grid.sum());
+    return record;
+}
+
+/// The numbers of the grid in a slot. The slot behind a last one that was filled out does not
+/// exist any more; it counts as a grid of zeros.
+gameComb readGrid(SlotReader &reader, std::int64_t slot, std::int64_t slotLength) {
+    gameComb grid;
+    if ((slot - 1) * slotLength >= reader.fileSize())
+        return grid;
+    const std::string record = reader.read(slot, 2 * gameComb::size);
+    for (int i = 1; i <= gameComb::size; ++i)
+        grid.num(i, readInt16(record, 2 * static_cast<std::size_t>(i - 1)));
+    return grid;
+}
+
+/// The grids of a file of `count`, nothing when the user cancels.
+std::optional<std::vector<GridRef>> readGrids(SlotReader &reader, std::int64_t count,
+                                              std::int64_t slotLength) {
+    ProgressShown progress("Chargement d'un jeu", "Chargement du jeu en cours...");
+    progress->ProgressBar.range(1, modMaths::maxOf<std::int64_t>(count + 1, 2));
+    std::vector<GridRef> grids;
+    for (std::int64_t i = 1; i <= count; ++i) {
+        if (i % 10 == 0) {
+            desktop().runEvents();
+            if (progress->cancelled())
+                return std::nullopt;
+            progress->ProgressBar.value = i;
+        }
+        grids.emplace_back(readGrid(reader, i + 1, slotLength));
+    }
+    return grids;
+}
+
+} // namespace
+
+void game::save() const {
+    xFile file;
+    file.fullName(modFileSelector::saveDialog(fileFilter, "Sauvegarde d'un fichier jeu"));
+    if (file.fullName().empty() || !modFileSelector::mayReplace(file, gAppInfo->name()))
+        return;
+    file.head().initialize(fileType);
+    SlotWriter writer(file.fullName(), file.head().fileLen());
+    writer.write(1, file.head().toRecord());
+    std::int64_t slot = 2;
+    for (const gameComb &grid : *this)
+        writer.write(slot++, gridRecord(grid));
+    writer.close();
+}
+
+void game::load() {
+    xFile file;
+    file.fullName(modFileSelector::openDialog(fileFilter, "Ouverture d'un fichier jeu"));
+    if (file.fullName().empty())
+        return;
+    file.head().initialize(fileType);
+    const std::int64_t slotLength = file.head().fileLen();
+    SlotReader reader(file.fullName(), slotLength);
+    file.head().fromRecord(reader.read(1, fileHead::recordSize));
+    if (!file.verifyHead(fileType))
+        return;
+    // The count of grids is not stored: it follows from the length, rounded. A single grid is
+    // less than half a slot more than the header, so its file gives none.
+    const std::int64_t count = static_cast<std::int64_t>(
+        roundHalfEven(static_cast<double>(reader.fileSize()) / static_cast<double>(slotLength)));
+    if (count <= 1)
+        return;
+    auto grids = readGrids(reader, count, slotLength);
+    if (!grids)
+        clear();
+    else if (grids_.empty())
+        grids_ = std::move(*grids);
+    else
+        grids_.insert(grids_.end(), grids->begin(), grids->end());
+}
+
+} // namespace boulix

@@ -1,0 +1,99 @@
+// SPDX-FileCopyrightText: The Boulix developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "games/gameComb.h"
+
+#include <array>
+#include <cstdint>
+#include <memory>
+#include <utility>
+#include <vector>
+
+namespace boulix {
+
+/// Where the grids of all games and the rows of all definitions lie: in chunks, each of which
+/// counts how many references point into it and goes when there are none left.
+class GridStore {
+  public:
+    using Place = std::uint32_t;
+    static constexpr Place nowhere = 0xFFFFFFFF;
+
+    /// The place of a new grid with these contents, not referred to yet.
+    Place make(const gameComb &contents) {
+        if (current_ == nullptr || current_->used == chunkSize)
+            openChunk();
+        current_->grids[current_->used] = contents;
+        return currentNumber_ * chunkSize + current_->used++;
+    }
+    gameComb &at(Place place) { return chunkOf(place).grids[place % chunkSize]; }
+    void refer(Place place) { ++chunkOf(place).references; }
+    void release(Place place) {
+        if (--chunkOf(place).references == 0)
+            closeChunk(place / chunkSize);
+    }
+    /// How many chunks are held.
+    std::size_t chunkCount() const { return chunks_.size() - free_.size(); }
+
+  private:
+    static constexpr std::uint32_t chunkSize = 4096;
+    struct Chunk {
+        std::array<gameComb, chunkSize> grids;
+        std::uint32_t used = 0;
+        std::uint32_t references = 0;
+    };
+
+    Chunk &chunkOf(Place place) { return *chunks_[place / chunkSize]; }
+    void openChunk();
+    void closeChunk(std::uint32_t number);
+
+    std::vector<std::unique_ptr<Chunk>> chunks_;
+    std::vector<std::uint32_t> free_; // numbers of chunks that went
+    Chunk *current_ = nullptr;        // the one that new grids go into
+    std::uint32_t currentNumber_ = 0;
+};
+
+/// The one store. It is never destroyed: games that live to the end of the process refer to it.
+extern GridStore &gridStore;
+
+/// A reference to a grid that several games and definitions may share: whoever changes the grid
+/// changes it for all who refer to it.
+///
+/// A game can hold fourteen million grids. An object of its own for each, with its count of users
+/// and a pointer to it, would cost some 50 bytes; a grid in a chunk costs its 14 bytes, and each
+/// place that refers to it 4. The count of users is kept for the chunk, not for the grid: a chunk
+/// of 4096 grids stays while any of them is referred to.
+class GridRef {
+  public:
+    /// Refers to nothing.
+    GridRef() = default;
+    /// A new grid with these contents.
+    explicit GridRef(const gameComb &contents) : place_(gridStore.make(contents)) {
+        gridStore.refer(place_);
+    }
+    GridRef(const GridRef &other) : place_(other.place_) {
+        if (place_ != GridStore::nowhere)
+            gridStore.refer(place_);
+    }
+    GridRef(GridRef &&other) noexcept : place_(std::exchange(other.place_, GridStore::nowhere)) {}
+    GridRef &operator=(GridRef other) noexcept {
+        std::swap(place_, other.place_);
+        return *this;
+    }
+    ~GridRef() {
+        if (place_ != GridStore::nowhere)
+            gridStore.release(place_);
+    }
+
+    explicit operator bool() const { return place_ != GridStore::nowhere; }
+    gameComb &operator*() const { return gridStore.at(place_); }
+    gameComb *operator->() const { return &gridStore.at(place_); }
+    /// Whether both refer to the same grid, not to equal ones.
+    bool operator==(const GridRef &other) const { return place_ == other.place_; }
+
+  private:
+    GridStore::Place place_ = GridStore::nowhere;
+};
+
+} // namespace boulix
