@@ -4,6 +4,7 @@
 #include "core/modMain.h"
 #include "core/reports.h"
 #include "ui/application.h"
+#include "ui/printing/qtPrintWindows.h"
 #include "ui/printing/qtPrinterSystem.h"
 #include "ui/qtDesktop.h"
 #include "ui/qtPlatform.h"
@@ -16,6 +17,8 @@ int main(int argc, char **argv) {
     boulix::setDesktop(&desktop);
     boulix::QtPrinterSystem printers;
     boulix::setPrinterSystem(&printers);
+    boulix::QtPrintWindows printWindows;
+    boulix::setPrintWindows(&printWindows);
 
     boulix::runCommand(boulix::modMain::Main);
     const bool onScreen = desktop.startEnded();

@@ -6,9 +6,12 @@
 #include "core/appInfo.h"
 #include "core/globals.h"
 #include "core/reports.h"
+#include "printing/frmGridParam.h"
+#include "printing/modPrinter.h"
 #include "ui/databaseTab.h"
 #include "ui/frmAbout.h"
 #include "ui/iconLoader.h"
+#include "ui/printing/gridParamDialog.h"
 #include "ui/qtText.h"
 #include "ui/theme.h"
 
@@ -106,9 +109,10 @@ void MainWindow::makeMenus() {
     QAction *graph =
         addEntry(*config, QStringLiteral("mnuGraphParam"),
                  QStringLiteral("Paramètres des g&raphiques"), QStringLiteral("chart"));
-    // What these entries open is not part of the program yet.
-    for (QAction *later : {canvas, printer, grid, graph})
-        later->setEnabled(false);
+    connect(canvas, &QAction::triggered, this, [] { runCommand(modPrinter::printCanvas); });
+    connect(printer, &QAction::triggered, this, [] { runCommand(modPrinter::printerDialog); });
+    connect(grid, &QAction::triggered, this, &MainWindow::showGridParam);
+    graph->setEnabled(false); // its window is not part of the program yet
 
     QMenu *help = menuBar()->addMenu(QStringLiteral("&?"));
     help->setObjectName(QStringLiteral("mnuHlp"));
@@ -144,6 +148,11 @@ void MainWindow::refresh() {
 
 void MainWindow::showAbout() {
     frmAbout(*gAppInfo, this).exec();
+}
+
+void MainWindow::showGridParam() {
+    frmGridParam rules;
+    GridParamDialog(rules, this).exec();
 }
 
 void MainWindow::closeEvent(QCloseEvent *event) {

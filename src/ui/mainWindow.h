@@ -37,6 +37,7 @@ class MainWindow : public QMainWindow, public frmMainView {
     QAction *addEntry(QMenu &menu, const QString &name, const QString &caption,
                       const QString &icon);
     void showAbout();
+    void showGridParam();
 
     frmMain &main_;
     QTabWidget *TabStrip;

@@ -1,0 +1,66 @@
+// SPDX-FileCopyrightText: The Boulix developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "ui/printing/gridParamDialog.h"
+
+#include "core/reports.h"
+#include "printing/frmGridParam.h"
+#include "ui/qtText.h"
+#include "ui/theme.h"
+
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+namespace boulix {
+
+GridParamDialog::GridParamDialog(frmGridParam &rules, QWidget *parent)
+    : QDialog(parent), rules_(rules), txtUnit(new QLineEdit(toQt(rules.txtUnit), this)),
+      txtPrice(new QLineEdit(toQt(rules.txtPrice), this)) {
+    setObjectName(QStringLiteral("frmGridParam"));
+    setWindowTitle(QString::fromUtf8(frmGridParam::caption));
+    txtUnit->setObjectName(QStringLiteral("txtUnit"));
+    txtPrice->setObjectName(QStringLiteral("txtPrice"));
+    layOut();
+}
+
+void GridParamDialog::layOut() {
+    auto *CMD_OK = new QPushButton(QStringLiteral("OK"), this);
+    auto *CMD_Cancel = new QPushButton(QStringLiteral("&Annuler"), this);
+    CMD_OK->setObjectName(QStringLiteral("CMD_OK"));
+    CMD_Cancel->setObjectName(QStringLiteral("CMD_Cancel"));
+    CMD_OK->setDefault(true);
+    connect(CMD_OK, &QPushButton::clicked, this, &GridParamDialog::confirm);
+    connect(CMD_Cancel, &QPushButton::clicked, this, &GridParamDialog::reject);
+
+    auto *buttons = new QHBoxLayout;
+    buttons->setSpacing(theme::gap);
+    buttons->addStretch();
+    buttons->addWidget(CMD_OK);
+    buttons->addWidget(CMD_Cancel);
+
+    auto *form = new QFormLayout(this);
+    form->setContentsMargins(theme::margin, theme::margin, theme::margin, theme::margin);
+    form->setSpacing(theme::margin);
+    form->addRow(QStringLiteral("&Unité de monnaie"), txtUnit);
+    form->addRow(QStringLiteral("&Prix d'une grille"), txtPrice);
+    form->addRow(buttons);
+    txtUnit->setMinimumWidth(fontMetrics().averageCharWidth() * 24);
+}
+
+void GridParamDialog::confirm() {
+    rules_.txtUnit = fromQt(txtUnit->text());
+    rules_.txtPrice = fromQt(txtPrice->text());
+    runCommand([this] { rules_.clickOK(); });
+    if (rules_.closed())
+        accept();
+}
+
+void GridParamDialog::reject() {
+    rules_.clickCancel();
+    QDialog::reject();
+}
+
+} // namespace boulix
