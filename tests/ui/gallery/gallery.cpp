@@ -12,6 +12,7 @@
 #include "core/platform.h"
 #include "core/reportList.h"
 #include "draws/dbCombs.h"
+#include "keep.h"
 #include "support/files.h"
 #include "support/locations.h"
 #include "ui/application.h"
@@ -37,6 +38,14 @@
 using namespace boulix;
 namespace support = boulix::testing_support;
 
+void keep(QWidget &window, const QString &name) {
+    window.show();
+    QApplication::processEvents();
+    QApplication::processEvents();
+    window.grab().save(name + QStringLiteral(".png"));
+    window.hide();
+}
+
 namespace {
 
 /// Imports the sample history without asking, and keeps the data in a folder of its own.
@@ -54,14 +63,6 @@ class GalleryPlatform : public QtPlatform {
   private:
     support::TemporaryFolder folder_;
 };
-
-void keep(QWidget &window, const QString &name) {
-    window.show();
-    QApplication::processEvents();
-    QApplication::processEvents();
-    window.grab().save(name + QStringLiteral(".png"));
-    window.hide();
-}
 
 void mark(NumberBoard &board, std::initializer_list<std::int16_t> numbers, std::int16_t compl_) {
     for (const std::int16_t n : numbers)
@@ -160,5 +161,6 @@ int main(int argc, char **argv) {
     keepIdentity();
     keepList();
     keepMainWindow();
+    keepPrintWindows();
     resetGlobals();
 }

@@ -1,0 +1,12 @@
+// SPDX-FileCopyrightText: The Boulix developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+class QString;
+class QWidget;
+
+/// Shows `window` for a moment and keeps its picture as `name`.png.
+void keep(QWidget &window, const QString &name);
+
+void keepPrintWindows();
