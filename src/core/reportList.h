@@ -33,10 +33,15 @@ class reportList {
     void clear();
     std::int64_t rowCount() const { return count_; }
 
-    /// Orders the rows ascending by the text of `column`; equal texts keep their order.
-    void sortByText(int column);
+    /// Orders the rows by the text of `column`; equal texts keep their order.
+    void sortByText(int column, bool descending = false);
+    /// Orders the rows ascending by `column`, or, where they stand so, descending.
+    void sortOrReverse(int column);
+    /// Some texts have changed: a sorted list is put in order again.
+    void textsChanged();
     /// The column of the sort key, -1 while the rows stand in computed order.
     int sortColumn() const { return sortColumn_; }
+    bool descending() const { return descending_; }
 
     /// The text of a cell at the place `row` of the list as it is shown.
     std::string text(std::int64_t row, int column) const;
@@ -53,6 +58,7 @@ class reportList {
     Cell cell_;
     std::int64_t count_ = 0;
     int sortColumn_ = -1;
+    bool descending_ = false;
     std::vector<std::uint32_t> order_; // empty while unsorted
 };
 

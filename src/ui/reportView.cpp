@@ -157,7 +157,7 @@ void ReportView::sizeColumns() {
     }
     const int column = list.sortColumn();
     header_->setSortIndicatorShown(column >= 0);
-    header_->setSortIndicator(column, Qt::AscendingOrder);
+    header_->setSortIndicator(column, list.descending() ? Qt::DescendingOrder : Qt::AscendingOrder);
 }
 
 int ReportView::rowCount() const {

@@ -55,11 +55,48 @@ TEST_F(ReportList, SortsAColumnAsTextAndKeepsTheOrderOfEqualOnes) {
     EXPECT_EQ(shownRows(), (std::vector<std::int64_t>{3, 2, 1, 0}));
 }
 
+TEST_F(ReportList, SortsTheOtherWayRoundAndKeepsTheOrderOfEqualOnes) {
+    fill();
+    list.sortByText(1, true);
+    EXPECT_TRUE(list.descending());
+    EXPECT_EQ(shownRows(), (std::vector<std::int64_t>{1, 0, 2, 3})); // "9" > "10" > ""
+}
+
+TEST_F(ReportList, TurnsRoundWhenTheSameColumnIsSortedAgain) {
+    fill();
+    list.sortOrReverse(0);
+    EXPECT_EQ(shownRows(), (std::vector<std::int64_t>{3, 2, 1, 0}));
+    list.sortOrReverse(0);
+    EXPECT_EQ(shownRows(), (std::vector<std::int64_t>{0, 1, 2, 3}));
+    EXPECT_TRUE(list.descending());
+    list.sortOrReverse(0);
+    EXPECT_EQ(shownRows(), (std::vector<std::int64_t>{3, 2, 1, 0}));
+    list.sortOrReverse(0);
+    list.sortOrReverse(1); // another column begins ascending
+    EXPECT_FALSE(list.descending());
+    EXPECT_EQ(shownRows(), (std::vector<std::int64_t>{3, 0, 2, 1}));
+}
+
+TEST_F(ReportList, ASortedListIsPutInOrderAgainWhenItsTextsChange) {
+    std::vector<std::string> texts = {"a", "b", "c"};
+    list.rows(3, [&](std::int64_t row, int) { return texts[static_cast<std::size_t>(row)]; });
+    list.textsChanged();
+    EXPECT_EQ(list.sortColumn(), -1);
+    list.sortByText(0, true);
+    texts = {"z", "y", "x"};
+    changes = 0;
+    list.textsChanged();
+    EXPECT_EQ(changes, 1);
+    EXPECT_EQ(list.sortColumn(), 0);
+    EXPECT_EQ(shownRows(), (std::vector<std::int64_t>{0, 1, 2}));
+}
+
 TEST_F(ReportList, NewRowsStandInComputedOrderAgain) {
     fill();
-    list.sortByText(1);
+    list.sortByText(1, true);
     fill();
     EXPECT_EQ(list.sortColumn(), -1);
+    EXPECT_FALSE(list.descending());
     EXPECT_EQ(list.text(0, 0), "4");
 }
 
