@@ -72,6 +72,7 @@ void frmMain::initTabs() {
     logLine("frmMain.frmInitTab: Initialisation de l'onglet des jeux");
     logLine("frmMain.frmInitTab: Initialisation de l'onglet des statistiques par tirage");
     logLine("frmMain.frmInitTab: Initialisation de l'onglet de pronostiques");
+    forecasts.init();
     logLine("frmMain.frmInitTab: Mise à jour de la base de données des tirages");
     frmUpdateDBList();
 }

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "workbench/databasePage.h"
+#include "workbench/forecastPage.h"
 #include "workbench/windowFrame.h"
 
 #include <array>
@@ -39,6 +40,7 @@ class frmMain : public windowFrame {
     std::string caption;
     std::array<std::string, 2> StatusBar;
     databasePage database;
+    forecastPage forecasts;
 
     void view(frmMainView *view) { view_ = view; }
     /// The load sequence, run once before the window is shown.
