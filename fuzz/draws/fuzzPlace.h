@@ -6,10 +6,10 @@
 #include "core/appInfo.h"
 #include "core/globals.h"
 #include "draws/dbCombs.h"
+#include "support/demand.h"
 #include "support/quietSill.h"
 
 #include <cstdint>
-#include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -51,13 +51,5 @@ class FuzzPlace {
     std::string folder_;
     bench_support::QuietPlatform platform_;
 };
-
-/// What must hold whatever the input was.
-inline void demand(bool holds, const char *what) {
-    if (holds)
-        return;
-    std::fprintf(stderr, "broken: %s\n", what);
-    std::abort();
-}
 
 } // namespace boulix::fuzzing
