@@ -12,10 +12,6 @@
 namespace boulix {
 namespace {
 
-using testing_support::fileExists;
-using testing_support::readBytes;
-using testing_support::writeBytes;
-
 class EliminatorsFileTest : public BoulixTest {
   protected:
     EliminatorsFileTest() {
