@@ -9,6 +9,7 @@
 #include "forecasts/pronostics.h"
 #include "printing/gridConfig.h"
 #include "printing/modPrinter.h"
+#include "stats/graphSettings.h"
 #include "stats/statStores.h"
 #include "stats/statTypes.h"
 #include "winnings/rapport.h"
@@ -19,7 +20,7 @@ const std::vector<StartUpStep> &startUpSteps() {
     static const std::vector<StartUpStep> steps = {
         {"Précalcul des Cnk", modMaths::precomputeCnk},
         {"Initialisation des types de statistique", modStats::InitStatTypes},
-        {"Initialisation des paramètres graphiques des statistiques", nullptr},
+        {"Initialisation des paramètres graphiques des statistiques", modStats::InitGraphTypes},
         {"Initialisation des types de jeu", modStats::InitTripletTable},
         {"Chargement des jeux réduits utilisateur", nullptr},
         {"Initialisation des paramètres d'impression", modPrinter::loadSettings},
