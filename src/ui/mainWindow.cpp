@@ -8,8 +8,10 @@
 #include "core/reports.h"
 #include "printing/frmGridParam.h"
 #include "printing/modPrinter.h"
+#include "stats/frmGraph.h"
 #include "ui/databaseTab.h"
 #include "ui/frmAbout.h"
+#include "ui/graph/graphParamDialog.h"
 #include "ui/iconLoader.h"
 #include "ui/printing/gridParamDialog.h"
 #include "ui/qtText.h"
@@ -112,7 +114,7 @@ void MainWindow::makeMenus() {
     connect(canvas, &QAction::triggered, this, [] { runCommand(modPrinter::printCanvas); });
     connect(printer, &QAction::triggered, this, [] { runCommand(modPrinter::printerDialog); });
     connect(grid, &QAction::triggered, this, &MainWindow::showGridParam);
-    graph->setEnabled(false); // its window is not part of the program yet
+    connect(graph, &QAction::triggered, this, &MainWindow::showGraphParam);
 
     QMenu *help = menuBar()->addMenu(QStringLiteral("&?"));
     help->setObjectName(QStringLiteral("mnuHlp"));
@@ -153,6 +155,11 @@ void MainWindow::showAbout() {
 void MainWindow::showGridParam() {
     frmGridParam rules;
     GridParamDialog(rules, this).exec();
+}
+
+void MainWindow::showGraphParam() {
+    frmGraphParam rules;
+    GraphParamDialog(rules, this).exec();
 }
 
 void MainWindow::closeEvent(QCloseEvent *event) {

@@ -38,6 +38,7 @@ class MainWindow : public QMainWindow, public frmMainView {
                       const QString &icon);
     void showAbout();
     void showGridParam();
+    void showGraphParam();
 
     frmMain &main_;
     QTabWidget *TabStrip;

@@ -162,5 +162,6 @@ int main(int argc, char **argv) {
     keepList();
     keepMainWindow();
     keepPrintWindows();
+    keepGraph();
     resetGlobals();
 }

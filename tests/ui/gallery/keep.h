@@ -9,4 +9,5 @@ class QWidget;
 /// Shows `window` for a moment and keeps its picture as `name`.png.
 void keep(QWidget &window, const QString &name);
 
+void keepGraph();
 void keepPrintWindows();

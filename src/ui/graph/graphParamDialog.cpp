@@ -1,0 +1,68 @@
+// SPDX-FileCopyrightText: The Boulix developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "ui/graph/graphParamDialog.h"
+
+#include "core/reports.h"
+#include "stats/frmGraph.h"
+#include "stats/graphSettings.h"
+#include "ui/theme.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QPushButton>
+
+namespace boulix {
+
+GraphParamDialog::GraphParamDialog(frmGraphParam &rules, QWidget *parent)
+    : QDialog(parent), rules_(rules), cmbGraphType(new QComboBox(this)),
+      chkShowAxes(new QCheckBox(QStringLiteral("Afficher les a&xes"), this)),
+      chkShowGrid(new QCheckBox(QStringLiteral("Afficher la &grille"), this)) {
+    setObjectName(QStringLiteral("frmGraphParam"));
+    setWindowTitle(QString::fromUtf8(frmGraphParam::caption));
+    cmbGraphType->setObjectName(QStringLiteral("cmbGraphType"));
+    chkShowAxes->setObjectName(QStringLiteral("chkShowAxes"));
+    chkShowGrid->setObjectName(QStringLiteral("chkShowGrid"));
+    for (const char *name : modStats::graphTypeNames)
+        cmbGraphType->addItem(QString::fromUtf8(name));
+    cmbGraphType->setCurrentIndex(rules_.cmbGraphType);
+    chkShowAxes->setChecked(rules_.chkShowAxes);
+    chkShowGrid->setChecked(rules_.chkShowGrid);
+    layOut();
+}
+
+void GraphParamDialog::layOut() {
+    auto *CMD_OK = new QPushButton(QStringLiteral("OK"), this);
+    auto *CMD_Cancel = new QPushButton(QStringLiteral("A&nnuler"), this);
+    CMD_OK->setObjectName(QStringLiteral("CMD_OK"));
+    CMD_Cancel->setObjectName(QStringLiteral("CMD_Cancel"));
+    CMD_OK->setDefault(true);
+    connect(CMD_OK, &QPushButton::clicked, this, &GraphParamDialog::confirm);
+    connect(CMD_Cancel, &QPushButton::clicked, this, &QDialog::reject);
+    auto *buttons = new QHBoxLayout;
+    buttons->setSpacing(theme::gap);
+    buttons->addStretch();
+    buttons->addWidget(CMD_OK);
+    buttons->addWidget(CMD_Cancel);
+
+    auto *form = new QFormLayout(this);
+    form->setContentsMargins(theme::margin, theme::margin, theme::margin, theme::margin);
+    form->setSpacing(theme::gap);
+    form->addRow(QStringLiteral("&Type de graphique"), cmbGraphType);
+    form->addRow(chkShowAxes);
+    form->addRow(chkShowGrid);
+    form->addItem(new QSpacerItem(0, theme::gap));
+    form->addRow(buttons);
+}
+
+void GraphParamDialog::confirm() {
+    rules_.cmbGraphType = static_cast<std::int16_t>(cmbGraphType->currentIndex());
+    rules_.chkShowAxes = chkShowAxes->isChecked();
+    rules_.chkShowGrid = chkShowGrid->isChecked();
+    if (runCommand([this] { rules_.clickOK(); }))
+        accept();
+}
+
+} // namespace boulix
