@@ -1,11 +1,14 @@
 // SPDX-FileCopyrightText: The Boulix developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "draws/fuzzPlace.h"
-
 #include "core/failure.h"
+#include "core/fileAccess.h"
+#include "support/demand.h"
+#include "support/quietProgram.h"
 
 #include <cmath>
+#include <cstddef>
+#include <cstdint>
 
 using namespace boulix;
 using fuzzing::demand;
@@ -13,8 +16,9 @@ using fuzzing::demand;
 // The input is a draw base file; what was loaded is sorted, which must neither lose a draw nor
 // leave the base, whatever days the file holds.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
-    static fuzzing::FuzzPlace place;
-    place.write("tirages.dbl", data, size);
+    static bench_support::QuietDesktop desktop;
+    static const bench_support::QuietProgram program(desktop);
+    replaceFile(program.baseFile(), {reinterpret_cast<const char *>(data), size});
     try {
         gDbCombs->load();
     } catch (const RuntimeFailure &) {
@@ -24,7 +28,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     const std::int32_t count = gDbCombs->Count();
     demand(count == 0 || count == static_cast<std::int32_t>(std::nearbyint(slots)),
            "the length of the file says how many draws it holds");
-    demand(std::filesystem::file_size(place.baseFile()) == size, "a load leaves the file alone");
+    demand(std::filesystem::file_size(program.baseFile()) == size, "a load leaves the file alone");
     if (count > 0)
         gDbCombs->sort();
     demand(gDbCombs->Count() == count, "a sort keeps all draws");

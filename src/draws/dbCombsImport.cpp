@@ -120,8 +120,8 @@ bool dbCombs::readImport(const std::string &fileName, frmProgress &progress) {
     return true;
 }
 
-// The exchange sort can leave a base out of order when it holds many doubles, and doubles that do
-// not lie side by side would not be found.
+// The exchange sort can leave a base out of order, and doubles that do not lie side by side would
+// not be found. Where it did its work, the draws stay as it left them.
 void dbCombs::restoreOrder() {
     if (std::is_sorted(draws_.begin(), draws_.end(), isEarlier))
         return;
