@@ -17,6 +17,10 @@ namespace {
 constexpr double millimetresPerPoint = 25.4 / 72;
 constexpr double pointsPerInch = 72;
 
+/// Texts are measured in letters of that many pixels, which is finer than any device: the
+/// measures of a font are whole pixels, and those of a picture are coarse.
+constexpr int rulerPixels = 1000;
+
 } // namespace
 
 template <class Base>
@@ -37,25 +41,27 @@ void PaintedCanvas<Base>::font(const std::string &name, double points) {
     font_.setPointSizeF(units * pointsPerInch / painter_.device()->logicalDpiY());
     // Letters keep their exact widths at any resolution.
     font_.setHintingPreference(QFont::PreferNoHinting);
+    ruler_ = font_;
+    ruler_.setPixelSize(rulerPixels);
+    millimetresPerRulerPixel_ = points * millimetresPerPoint / rulerPixels;
 }
 
 template <class Base>
 double PaintedCanvas<Base>::textWidth(const std::string &text) const {
-    const QFontMetricsF metrics(font_, painter_.device());
-    return metrics.horizontalAdvance(toQt(text)) / scale_.unitsPerMillimetre;
+    return QFontMetricsF(ruler_).horizontalAdvance(toQt(text)) * millimetresPerRulerPixel_;
 }
 
 template <class Base>
 double PaintedCanvas<Base>::textHeight(const std::string &) const {
-    return QFontMetricsF(font_, painter_.device()).height() / scale_.unitsPerMillimetre;
+    return QFontMetricsF(ruler_).height() * millimetresPerRulerPixel_;
 }
 
 template <class Base>
 void PaintedCanvas<Base>::text(double x, double y, const std::string &text) {
-    const double ascent = QFontMetricsF(font_, painter_.device()).ascent();
+    const double baseline = y + QFontMetricsF(ruler_).ascent() * millimetresPerRulerPixel_;
     painter_.setFont(font_);
     painter_.setPen(color_);
-    painter_.drawText(toDevice(x, y) + QPointF(0, ascent), toQt(text));
+    painter_.drawText(toDevice(x, baseline), toQt(text));
 }
 
 template <class Base>

@@ -48,6 +48,8 @@ class PaintedCanvas : public Base {
     QColor color_ = Qt::black;
     double penWidth_ = 1;
     QFont font_;
+    QFont ruler_; ///< the same font, large, to measure with
+    double millimetresPerRulerPixel_ = 0;
 };
 
 extern template class PaintedCanvas<Picture>;
