@@ -3,12 +3,12 @@
 
 #include "ui/fileDialogs.h"
 
+#include "ui/messageBox.h"
 #include "ui/qtText.h"
 
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QMessageBox>
 
 namespace boulix::fileDialogs {
 
@@ -89,9 +89,9 @@ std::string save(QWidget *parent, const FileQuestion &question) {
         const QString folder = QFileInfo(file).absolutePath();
         if (file.isEmpty() || QDir(folder).exists())
             return fromQt(file);
-        QMessageBox::information(
-            parent, toQt(question.title),
-            QStringLiteral("Le dossier %1 n'existe pas.").arg(QDir::toNativeSeparators(folder)));
+        const std::string text =
+            "Le dossier " + fromQt(QDir::toNativeSeparators(folder)) + " n'existe pas.";
+        runMessageBox(parent, text, Icon::information, question.title);
     }
 }
 

@@ -6,7 +6,6 @@
 #include "core/numberBoard.h"
 #include "ui/numberBoardPainter.h"
 
-#include <QAccessible>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -116,6 +115,9 @@ void NumberBoardView::hover(std::int16_t number) {
 
 void NumberBoardView::keyPressEvent(QKeyEvent *event) {
     const int firstOfColumn = std::max(1, current_ / rows * rows);
+    if (event->key() >= Qt::Key_0 && event->key() <= Qt::Key_9)
+        return typeDigit(event->key() - Qt::Key_0);
+    sinceDigit_.invalidate();
     switch (event->key()) {
     case Qt::Key_Left:
         return moveTo(current_ - rows);
@@ -141,8 +143,7 @@ void NumberBoardView::keyPressEvent(QKeyEvent *event) {
         board_.click(current_);
         return;
     default:
-        if (event->key() >= Qt::Key_0 && event->key() <= Qt::Key_9)
-            return typeDigit(event->key() - Qt::Key_0);
+        break;
     }
     QWidget::keyPressEvent(event);
 }
@@ -165,8 +166,7 @@ void NumberBoardView::moveTo(int number) {
 void NumberBoardView::boardChanged() {
     // A closed board is still worth reading with the keyboard, but a click gives it no focus.
     setFocusPolicy(board_.editable() ? Qt::StrongFocus : Qt::TabFocus);
-    if (QAccessible::isActive())
-        setAccessibleDescription(describe());
+    setAccessibleDescription(describe());
     update();
 }
 

@@ -11,6 +11,7 @@
 #include "ui/frmSplash.h"
 #include "ui/helpWindow.h"
 #include "ui/mainWindow.h"
+#include "ui/messageBox.h"
 #include "ui/numberDialog.h"
 #include "ui/platformHelp.h"
 #include "ui/progressWindow.h"
@@ -19,7 +20,6 @@
 #include <QApplication>
 #include <QFileInfo>
 #include <QInputDialog>
-#include <QMessageBox>
 
 namespace boulix {
 
@@ -31,28 +31,6 @@ constexpr auto eventsEvery = 16ms;
 /// A job that is done sooner shows no progress window: it would only flicker.
 constexpr auto progressAfter = 200ms;
 
-QMessageBox::Icon qtIcon(Icon icon) {
-    switch (icon) {
-    case Icon::information:
-        return QMessageBox::Information;
-    case Icon::question:
-        return QMessageBox::Question;
-    case Icon::critical:
-        return QMessageBox::Critical;
-    case Icon::none:
-        break;
-    }
-    return QMessageBox::NoIcon;
-}
-
-QMessageBox::StandardButton runBox(QWidget *parent, const std::string &text, Icon icon,
-                                   const std::string &title, QMessageBox::StandardButtons buttons) {
-    QMessageBox box(qtIcon(icon), toQt(title), linesToQt(text), buttons, parent);
-    box.setObjectName(QStringLiteral("messageBox"));
-    box.setTextFormat(Qt::PlainText);
-    return static_cast<QMessageBox::StandardButton>(box.exec());
-}
-
 } // namespace
 
 QtDesktop::QtDesktop() = default;
@@ -61,12 +39,12 @@ QtDesktop::~QtDesktop() {
 }
 
 void QtDesktop::showMessage(const std::string &text, Icon icon, const std::string &title) {
-    runBox(parentForDialog(), text, icon, title, QMessageBox::Ok);
+    runMessageBox(parentForDialog(), text, icon, title);
 }
 
 bool QtDesktop::askYesNo(const std::string &text, Icon icon, const std::string &title) {
     const auto buttons = QMessageBox::Yes | QMessageBox::No;
-    return runBox(parentForDialog(), text, icon, title, buttons) == QMessageBox::Yes;
+    return runMessageBox(parentForDialog(), text, icon, title, buttons) == QMessageBox::Yes;
 }
 
 std::optional<std::string> QtDesktop::askText(const std::string &prompt, const std::string &title) {

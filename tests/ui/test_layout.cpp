@@ -1,0 +1,158 @@
+// SPDX-FileCopyrightText: The Boulix developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "core/appInfo.h"
+#include "core/frmNbrSelector.h"
+#include "core/frmProgress.h"
+#include "core/globals.h"
+#include "ui/frmAbout.h"
+#include "ui/frmSelDate.h"
+#include "ui/frmSplash.h"
+#include "ui/numberDialog.h"
+#include "ui/progressWindow.h"
+#include "ui/support/clipping.h"
+#include "ui/support/screenTest.h"
+#include "workbench/frmMain.h"
+
+#include <QLabel>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QtTest/QTest>
+
+#include <gmock/gmock.h>
+
+namespace boulix {
+namespace {
+
+using testing_support::clippedControls;
+
+/// Every window, with fonts of the usual size and half as large again.
+class LayoutTest : public ScreenTest, public ::testing::WithParamInterface<double> {
+  protected:
+    LayoutTest() : usual_(QApplication::font()) {
+        QFont scaled = usual_;
+        scaled.setPointSizeF(usual_.pointSizeF() * GetParam());
+        QApplication::setFont(scaled);
+        gAppInfo->init("Attention!!! Ce logiciel constitue une aide au jeu mais ne saurait en "
+                       "aucun cas garantir les gains. L'auteur décline toute responsabilité.",
+                       "Marcel Quillon", "Quillon Logiciels", 2003);
+    }
+    ~LayoutTest() override {
+        forget();
+        QApplication::setFont(usual_);
+    }
+
+    static void expectNothingClipped(QWidget &window) {
+        window.show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+        QApplication::processEvents(); // what was told to be laid out again is
+        EXPECT_THAT(clippedControls(window), ::testing::IsEmpty());
+    }
+
+  private:
+    QFont usual_;
+};
+
+TEST_P(LayoutTest, NothingIsClippedInTheMainWindow) {
+    MainWindow &window = start();
+    mainWindow->database.lblDBCombDesc = "Tirage n° 2 du 30/12/2008";
+    mainWindow->StatusBar[0] = "4858 combinaisons dans la base de données";
+    window.refresh();
+    for (int tab = 1; tab <= frmMain::tabCount; ++tab) {
+        mainWindow->clickTab(tab);
+        expectNothingClipped(window);
+    }
+    mainWindow->clickTab(1);
+    window.resize(window.minimumSizeHint());
+    expectNothingClipped(window);
+}
+
+TEST_P(LayoutTest, NothingIsClippedInTheNumberDialog) {
+    frmNbrSelector state;
+    NumberDialog dialog(state);
+    state.grd.selectNumber(5);
+    expectNothingClipped(dialog);
+}
+
+TEST_P(LayoutTest, NothingIsClippedInTheDateDialog) {
+    frmSelDate dialog;
+    expectNothingClipped(dialog);
+}
+
+TEST_P(LayoutTest, NothingIsClippedInTheProgressWindow) {
+    frmProgress state;
+    state.lblInfo = "Lecture du fichier historique-exemple.txt, une ligne après l'autre, jusqu'à "
+                    "la fin du fichier";
+    ProgressWindow window(state);
+    expectNothingClipped(window);
+}
+
+TEST_P(LayoutTest, NothingIsClippedInTheAboutBox) {
+    frmAbout about(*gAppInfo);
+    expectNothingClipped(about);
+}
+
+TEST_P(LayoutTest, NothingIsClippedInTheSplashWindow) {
+    frmSplash splash({"Version 4.0.3", "boulix", "Quillon Logiciels", "(c) 2003",
+                      "Windows 98, ME, NT, 2000, XP", gAppInfo->disclaimer()});
+    expectNothingClipped(splash);
+    splash.offerToClose();
+    expectNothingClipped(splash);
+}
+
+TEST(Clipping, ATextWithoutRoomAndAControlThatSticksOutAreFound) {
+    QWidget window;
+    window.resize(200, 100);
+    QLabel label(QStringLiteral("un texte trop long"), &window);
+    label.setObjectName(QStringLiteral("narrow"));
+    label.resize(20, 20);
+    QPushButton button(QStringLiteral("OK"), &window);
+    button.setObjectName(QStringLiteral("outside"));
+    button.move(190, 0);
+    QPushButton fine(QStringLiteral("OK"), &window);
+    fine.move(0, 50);
+    window.show();
+    EXPECT_EQ(clippedControls(window), (std::vector<std::string>{"narrow", "outside"}));
+}
+
+INSTANTIATE_TEST_SUITE_P(Fonts, LayoutTest, ::testing::Values(1.0, 1.5), [](const auto &font) {
+    return font.param > 1 ? std::string("Large") : std::string("Usual");
+});
+
+/// The names of the controls that Tab reaches, from the first one round to it again.
+std::vector<std::string> tabOrder(QWidget &window) {
+    std::vector<std::string> names;
+    const QWidget *control = &window;
+    do {
+        control = control->nextInFocusChain();
+        const bool stops = control->focusPolicy() & Qt::TabFocus && control->isVisibleTo(&window) &&
+                           !control->focusProxy();
+        if (stops && control->window() == &window)
+            names.push_back(control->objectName().toStdString());
+    } while (control != &window);
+    return names;
+}
+
+class TabOrderTest : public ScreenTest {};
+
+TEST_F(TabOrderTest, TheNumberDialogGoesFromTheBoardToItsButtons) {
+    frmNbrSelector state;
+    NumberDialog dialog(state);
+    dialog.show();
+    EXPECT_EQ(tabOrder(dialog),
+              (std::vector<std::string>{"grd", "cmdSelectAll", "cmdClear", "cmdOK", "cmdCancel"}));
+}
+
+TEST_F(TabOrderTest, TheDatabasePageGoesFromTheToolbarOverTheListToTheBoard) {
+    MainWindow &window = start();
+    std::vector<std::string> named;
+    for (const std::string &name : tabOrder(window))
+        if (!name.empty())
+            named.push_back(name);
+    EXPECT_THAT(named, ::testing::IsSupersetOf({"lvwDBcomb", "grdDB"}));
+    const auto at = [&](const char *name) { return std::find(named.begin(), named.end(), name); };
+    EXPECT_LT(at("lvwDBcomb"), at("grdDB"));
+}
+
+} // namespace
+} // namespace boulix
