@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 #include <limits>
 #include <random>
+#include <utility>
 
 namespace boulix {
 namespace {
@@ -168,6 +169,30 @@ TEST_F(Import, LeavesTheFileAloneWhileItReadsAndStrikesDoubles) {
     desktop.onEvents = [&] { EXPECT_EQ(baseFileBytes(), before); };
     EXPECT_TRUE(importLines({lineB, lineA}));
     EXPECT_EQ(baseFileBytes(), drawsFile({drawA, drawB, drawC}));
+}
+
+/// A desktop that looks at the base's file when the progress window goes.
+class LookingDesktop : public testing_support::ScriptedDesktop {
+  public:
+    explicit LookingDesktop(std::string file) : file_(std::move(file)) {}
+    void progressUnloaded() override {
+        savedBefore = testing_support::fileExists(file_);
+        ScriptedDesktop::progressUnloaded();
+    }
+    bool savedBefore = true;
+
+  private:
+    std::string file_;
+};
+
+TEST_F(Import, SavesWhenTheProgressWindowIsGone) {
+    LookingDesktop looking(baseFile());
+    setDesktop(&looking);
+    writeBytes(file("import.txt"), std::string(plainHeader) + "\r\n" + lineA + "\r\n" + lineB);
+    looking.answerOpen(file("import.txt"));
+    EXPECT_TRUE(gDbCombs->ImportFdjFile());
+    EXPECT_FALSE(looking.savedBefore);
+    EXPECT_EQ(baseFileBytes(), drawsFile({drawA, drawB}));
 }
 
 TEST_F(Import, RestoresTheOrderThatTheSortLeftAndSaysSo) {

@@ -218,7 +218,7 @@ TEST_F(DrawBaseLoad, TakesDaysThatAreNoDatesAsTheyStand) {
 }
 
 TEST_F(DrawBaseLoad, FailsOnNumbersWhoseSumIsBeyondSixteenBits) {
-    const DrawOf tooMuch = {day1, 1, {30000, 2000, 767, 1, 0, 0, 0}};
+    const DrawOf tooMuch = {day1, 1, {30000, 2000, 767, 1, 0, 0, -1}};
     const DrawOf justFits = {day1, 1, {30000, 2000, 767, 0, 0, 0, 0}};
     const DrawOf tooMuchInAll = {day1, 1, {30000, 2000, 767, 0, 0, 0, 1}};
     EXPECT_EQ(load(drawsFile({justFits})), 0);
