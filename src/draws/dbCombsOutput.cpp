@@ -48,7 +48,7 @@ void dbCombs::ExportDB() {
 }
 
 void dbCombs::PrintDB() {
-    auto report = modPrinter::startReport("Boulix - base de données");
+    auto report = modPrinter::startReport("base de données");
     if (!report)
         return;
     report->line("Base de données imprimée le " + longDate(platform().today()));

@@ -40,7 +40,7 @@ void gameDef::rename() {
 }
 
 void gameDef::printDef() const {
-    auto report = modPrinter::startReport("Système de jeu");
+    auto report = modPrinter::startReport("système de jeu");
     if (!report)
         return;
     report->fontName("Arial");

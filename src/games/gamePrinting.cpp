@@ -35,7 +35,7 @@ void game::PrintGameGridCanvas() const {
 }
 
 void game::PrintGameList() const {
-    auto report = modPrinter::startReport("Jeu");
+    auto report = modPrinter::startReport("jeu");
     if (!report)
         return;
     report->line("Jeu imprimé le " + longDate(platform().today()));

@@ -107,7 +107,7 @@ std::int16_t printerCheck() {
 }
 
 std::unique_ptr<Paper> openDocument(const std::string &title, Sides sides) {
-    return printerSystem().openDocument(currentPrinter(), title, sides);
+    return printerSystem().openDocument(currentPrinter(), "Boulix - " + title, sides);
 }
 
 void printBanner(TextReport &report) {
@@ -133,7 +133,7 @@ std::optional<TextReport> startReport(const std::string &title) {
 void printCanvas() {
     if (printerCheck() != 0)
         return;
-    const auto paper = openDocument("Boulix - canevas", Sides::one);
+    const auto paper = openDocument("canevas", Sides::one);
     const std::string hint = "Haut de la grille ici";
     paper->color(black);
     paper->penWidth(2);

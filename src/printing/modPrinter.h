@@ -50,7 +50,7 @@ void printerDialog();
 /// no printer, else 0.
 std::int16_t printerCheck();
 
-/// Opens a document on the current printer. `title` is what the print queue shows.
+/// Opens a document on the current printer. The print queue shows the program's name and `title`.
 std::unique_ptr<Paper> openDocument(const std::string &title, Sides sides);
 
 /// The head of a text report: the application's name between two lines of stars.

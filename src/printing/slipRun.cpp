@@ -62,7 +62,7 @@ void run(std::int32_t count, Sheets sheets, const GridDrawer &drawGrid) {
     printWindows().runGridPreview(window);
     if (window.answer() == 0)
         return;
-    const auto paper = modPrinter::openDocument("Boulix - grilles", Sides::one);
+    const auto paper = modPrinter::openDocument("grilles", Sides::one);
     printSlips(*paper, window.choice(), sheets, drawGrid);
 }
 

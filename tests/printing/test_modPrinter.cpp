@@ -123,6 +123,7 @@ TEST_F(ModPrinterTest, TheBannerIsTheNameBetweenTwoLinesOfStars) {
         EXPECT_EQ(item.points, 10);
     }
     EXPECT_FALSE(document.ended);
+    EXPECT_EQ(document.title, "Boulix - essai");
 }
 
 TEST_F(ModPrinterTest, TheNameIsCentredRoundedDown) {

@@ -22,7 +22,7 @@ std::string keyword(const std::string &name, const std::string &value) {
 }
 
 void printLine(const std::string &text) {
-    auto report = modPrinter::startReport("Boulix - essai");
+    auto report = modPrinter::startReport("essai");
     ASSERT_TRUE(report);
     report->line(text);
     report->end();

@@ -5,6 +5,8 @@
 #include "core/globals.h"
 #include "core/text.h"
 #include "draws/dbCombs.h"
+#include "games/game.h"
+#include "games/gameDef.h"
 #include "printing/modPrinter.h"
 #include "support/locations.h"
 
@@ -37,7 +39,7 @@ TEST_F(ReportOnPaperTest, BannerAndLinesStandInTheirOrderPlacesAndSizes) {
     for (const char *queue : bothQueues) {
         SCOPED_TRACE(queue);
         modPrinter::currentPrinter(queue);
-        auto report = modPrinter::startReport("Boulix - essai");
+        auto report = modPrinter::startReport("essai");
         ASSERT_TRUE(report);
         report->line("Numéro Fréquence");
         report->fontSize(8);
@@ -62,7 +64,7 @@ TEST_F(ReportOnPaperTest, BannerAndLinesStandInTheirOrderPlacesAndSizes) {
 
 TEST_F(ReportOnPaperTest, ALongReportGoesOnOverPagesLineByLine) {
     modPrinter::currentPrinter("Salon");
-    auto report = modPrinter::startReport("Boulix - essai");
+    auto report = modPrinter::startReport("essai");
     ASSERT_TRUE(report);
     constexpr int count = 200;
     for (int i = 1; i <= count; ++i)
@@ -96,7 +98,7 @@ TEST_F(ReportOnPaperTest, ADescriptionWiderThanTheSheetIsPrintedWhole) {
         "Donne un aperçu graphique du nombre de tirages consécutifs sans sortir sur la plage de "
         "tirages sélectionnée pour le quadruplet sélectionné (Ce calcul ne tient pas compte du "
         "numéro complémentaire)";
-    auto report = modPrinter::startReport("Boulix - essai");
+    auto report = modPrinter::startReport("essai");
     ASSERT_TRUE(report);
     report->line(description);
     report->end();
@@ -110,7 +112,7 @@ TEST_F(ReportOnPaperTest, ADescriptionWiderThanTheSheetIsPrintedWhole) {
 
 TEST_F(ReportOnPaperTest, ValuesStandInTheirColumn) {
     modPrinter::currentPrinter("Bureau");
-    auto report = modPrinter::startReport("Boulix - essai");
+    auto report = modPrinter::startReport("essai");
     ASSERT_TRUE(report);
     const double column = report->textWidth("Nombre de grilles ");
     report->line("Fichier", column, ": rgame-0.gam");
@@ -143,6 +145,40 @@ TEST_F(ReportOnPaperTest, FourDrawsOfTheBaseMakeOneFullLineAndOneEntry) {
     EXPECT_NEAR(pages.lines()[4].points, 8, 0.2);
     for (const PrintedWord &word : pages.words())
         EXPECT_LT(word.right, pages.sheetWidth() - TextReport::margin + 0.1);
+}
+
+TEST_F(ReportOnPaperTest, AGameIsListedGridByGrid) {
+    modPrinter::currentPrinter("Bureau");
+    currentGame->Add() = gameComb({1, 2, 3, 4, 5, 6});
+    currentGame->Add() = gameComb({9, 19, 29, 39, 48, 49});
+    currentGame->PrintGameList();
+    const Lines texts = textsOf(lastPrinted("Bureau"));
+    ASSERT_EQ(texts.size(), 6U);
+    EXPECT_EQ(texts[3], "Jeu imprimé le 15/11/2026");
+    EXPECT_EQ(texts[4], "001)   01   02   03   04   05   06   ");
+    EXPECT_EQ(texts[5], "002)   09   19   29   39   48   49   ");
+}
+
+TEST_F(ReportOnPaperTest, ADefinitionShowsItsValuesInAColumnAndItsRowsBelow) {
+    modPrinter::currentPrinter("Bureau");
+    gameDef definition;
+    definition.label("5 sur 10");
+    definition.nSelect(10);
+    definition.addStrComb("01 / 02 / 03 / 04 / 05 / 10");
+    definition.printDef();
+    const auto pages = lastPrinted("Bureau");
+    EXPECT_EQ(textsOf(pages).back(), "          001)   01   02   03   04   05   10   ");
+    // The longest label touches its colon, so the right edges of the colons are compared.
+    double column = 0;
+    int colons = 0;
+    for (const PrintedWord &word : pages.words()) {
+        if (word.text.back() != ':')
+            continue;
+        column = colons++ == 0 ? word.right : column;
+        EXPECT_NEAR(word.right, column, 0.01) << word.text;
+    }
+    EXPECT_EQ(colons, 6);
+    EXPECT_GT(column, TextReport::margin + 20) << "behind the longest label";
 }
 
 TEST_F(ReportOnPaperTest, TheWholeHistoryOfTheOperatorComesOutDrawByDraw) {

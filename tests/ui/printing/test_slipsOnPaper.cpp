@@ -3,9 +3,9 @@
 #include "paperTest.h"
 #include "printing/slipTest.h"
 
+#include "games/game.h"
 #include "printing/frmPrintGridPreview.h"
 #include "printing/modPrinter.h"
-#include "printing/slipRun.h"
 
 #include <random>
 
@@ -13,7 +13,6 @@ namespace boulix {
 namespace {
 
 using namespace testing_support;
-using slipRun::Sheets;
 
 constexpr double allowed = 0.05; // millimetres
 
@@ -22,16 +21,19 @@ constexpr double allowed = 0.05; // millimetres
 constexpr float shiftFromTheRight = 40;
 
 /// Six numbers of each grid: all numbers come up, on all positions of a slip.
-slip::GridNumbers numbersOf(std::int32_t grid) {
-    slip::GridNumbers numbers{};
+gameComb::Numbers numbersOf(int grid) {
+    gameComb::Numbers numbers{};
     for (std::size_t i = 0; i < numbers.size(); ++i)
         numbers[i] =
             static_cast<std::int16_t>((static_cast<std::size_t>(grid) * 11 + i * 8) % 49 + 1);
     return numbers;
 }
 
-void drawGrid(std::int32_t grid, std::int16_t position, Canvas &target, slip::Placement placement) {
-    slip::drawGrid(target, numbersOf(grid), position, placement);
+game gameOf(int count) {
+    game grids;
+    for (int i = 1; i <= count; ++i)
+        grids.Add() = gameComb(numbersOf(i));
+    return grids;
 }
 
 /// The crosses that a slip with the grids `first` to `last` and these marks must show.
@@ -93,7 +95,7 @@ TEST_F(SlipOnPaperTest, EveryCrossLiesInItsBoxInAllFourDirections) {
             modPrinter::currentPrinter(queue);
             modPrinter::direction = direction;
             modPrinter::offset_Y = direction == 1 ? shiftFromTheRight : 0.0F;
-            slipRun::run(8, Sheets::slips, drawGrid);
+            gameOf(8).PrintGameGrid();
             const auto pages = lastPrinted(queue);
             ASSERT_EQ(pages.count(), 1);
             expectOnPage(pages, 1,
@@ -113,7 +115,7 @@ TEST_F(SlipOnPaperTest, TheOffsetsShiftEveryCross) {
         modPrinter::offset_X = static_cast<float>(hundredth(random)) / 100;
         modPrinter::offset_Y =
             static_cast<float>(hundredth(random)) / 100 + (direction == 1 ? shiftFromTheRight : 0);
-        slipRun::run(3, Sheets::slips, drawGrid);
+        gameOf(3).PrintGameGrid();
         expectOnPage(lastPrinted("Salon"), 1,
                      turned(expectedSlip(1, 3, bothDrawsJokerFiveWeeks), direction,
                             modPrinter::offset_X, modPrinter::offset_Y));
@@ -123,7 +125,7 @@ TEST_F(SlipOnPaperTest, TheOffsetsShiftEveryCross) {
 TEST_F(SlipOnPaperTest, NineGridsTakeTwoSlipsWithTheMarksOnBoth) {
     confirmWithAllOptions();
     modPrinter::currentPrinter("Bureau");
-    slipRun::run(9, Sheets::slips, drawGrid);
+    gameOf(9).PrintGameGrid();
     const auto pages = lastPrinted("Bureau");
     ASSERT_EQ(pages.count(), 2);
     expectOnPage(pages, 1, expectedSlip(1, 8, bothDrawsJokerFiveWeeks));
@@ -137,7 +139,7 @@ TEST_F(SlipOnPaperTest, ACanvasSheetTakesASlipInEachSlot) {
     for (const char *queue : bothQueues) {
         SCOPED_TRACE(queue);
         modPrinter::currentPrinter(queue);
-        slipRun::run(20, Sheets::canvas, drawGrid);
+        gameOf(20).PrintGameGridCanvas();
         const auto pages = lastPrinted(queue);
         ASSERT_EQ(pages.count(), 2);
         auto sheet = turned(expectedSlip(1, 8, bothDrawsJokerFiveWeeks), 2, 29, 47);
