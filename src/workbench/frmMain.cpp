@@ -42,7 +42,7 @@ const std::array<TabText, frmMain::tabCount> frmMain::tabs = {{
     {"Pronostiques", "Permet de configurer et de tester des méthodes de pronostiques"},
 }};
 
-frmMain::frmMain() : database(*this) {}
+frmMain::frmMain() : database(*this), statistics(*this), analysis(statistics.grdStatNbrSelector) {}
 
 void frmMain::load() {
     caption = gAppInfo->fullName();
@@ -68,9 +68,11 @@ void frmMain::initTabs() {
     logLine("frmMain.frmInitTab: Initialisation de l'onglet de gestion de base de données");
     database.init();
     logLine("frmMain.frmInitTab: Initialisation de l'onglet de statistiques");
+    statistics.init();
     logLine("frmMain.frmInitTab: Initialisation de l'onglet des éliminateurs");
     logLine("frmMain.frmInitTab: Initialisation de l'onglet des jeux");
     logLine("frmMain.frmInitTab: Initialisation de l'onglet des statistiques par tirage");
+    analysis.init();
     logLine("frmMain.frmInitTab: Initialisation de l'onglet de pronostiques");
     forecasts.init();
     logLine("frmMain.frmInitTab: Mise à jour de la base de données des tirages");
@@ -88,6 +90,8 @@ void frmMain::fillDBList() {
     logLine("frmMain.frmUpdateDBList: -> Remplissage OK");
     const std::int32_t count = gDbCombs->Count();
     logLine("frmMain.frmUpdateDBList: -> " + std::to_string(count) + " combinaisons");
+    statistics.followBase();
+    analysis.followBase();
     logLine("frmMain.frmUpdateDBList: -> Sélection du premier item");
     if (count > 0)
         database.clickRow(count);
@@ -95,6 +99,11 @@ void frmMain::fillDBList() {
 
 void frmMain::showDrawCount() {
     StatusBar[0] = std::to_string(gDbCombs->Count()) + " combinaisons dans la base de données";
+    refresh();
+}
+
+void frmMain::showSelectedCount(const std::string &text) {
+    StatusBar[1] = text;
     refresh();
 }
 

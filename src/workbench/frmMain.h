@@ -4,7 +4,9 @@
 #pragma once
 
 #include "workbench/databasePage.h"
+#include "workbench/drawAnalysisPage.h"
 #include "workbench/forecastPage.h"
+#include "workbench/statisticsPage.h"
 #include "workbench/windowFrame.h"
 
 #include <array>
@@ -40,6 +42,8 @@ class frmMain : public windowFrame {
     std::string caption;
     std::array<std::string, 2> StatusBar;
     databasePage database;
+    statisticsPage statistics;
+    drawAnalysisPage analysis;
     forecastPage forecasts;
 
     void view(frmMainView *view) { view_ = view; }
@@ -57,6 +61,7 @@ class frmMain : public windowFrame {
 
     void frmUpdateDBList() override;
     void showDrawCount() override;
+    void showSelectedCount(const std::string &text) override;
 
   private:
     void frmInitTab();

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <string>
+
 namespace boulix {
 
 /// What a page asks of the window it stands in.
@@ -14,6 +16,8 @@ class windowFrame {
     virtual void frmUpdateDBList() = 0;
     /// Sets the count of draws in the status bar again.
     virtual void showDrawCount() = 0;
+    /// Writes the count of selected numbers into the second panel of the status bar.
+    virtual void showSelectedCount(const std::string &text) = 0;
 };
 
 } // namespace boulix
