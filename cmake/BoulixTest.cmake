@@ -60,7 +60,7 @@ function(boulix_test)
             LABELS ${T_LABEL} TIMEOUT ${T_TIMEOUT} ENVIRONMENT "${environment}")
     else()
         gtest_discover_tests(${T_NAME} TEST_PREFIX "${T_NAME}." DISCOVERY_MODE PRE_TEST
-            PROPERTIES LABELS ${T_LABEL} TIMEOUT ${T_TIMEOUT})
+            NO_PRETTY_VALUES PROPERTIES LABELS ${T_LABEL} TIMEOUT ${T_TIMEOUT})
         # gtest_discover_tests() cannot carry a list, so a script that ctest reads after the
         # discovered tests gives them their environment.
         set(script "${CMAKE_CURRENT_BINARY_DIR}/${T_NAME}_environment.cmake")
