@@ -141,7 +141,7 @@ bool eliminators::load() {
     clear();
     file_.head().initialize(fileType);
     SlotReader reader(name, file_.head().fileLen());
-    file_.head().fromRecord(reader.read(1, fileHead::recordSize));
+    file_.head().loadRecord(reader);
     if (!file_.verifyHead(fileType))
         return false;
     readRules(reader);

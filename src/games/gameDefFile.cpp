@@ -137,7 +137,7 @@ bool gameDef::load() {
     xFile file = fileOf(file_);
     file.path(platform().applicationFolder());
     SlotReader reader(file.fullName(), newHead().fileLen());
-    file.head().fromRecord(reader.read(headerSlot, fileHead::recordSize));
+    file.head().loadRecord(reader);
     if (!file.verifyHead(fileType))
         return false;
 

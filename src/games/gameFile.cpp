@@ -82,7 +82,7 @@ void game::load() {
     file.head().initialize(fileType);
     const std::int64_t slotLength = file.head().fileLen();
     SlotReader reader(file.fullName(), slotLength);
-    file.head().fromRecord(reader.read(1, fileHead::recordSize));
+    file.head().loadRecord(reader);
     if (!file.verifyHead(fileType))
         return;
     // The count of grids is not stored: it follows from the length, rounded. A single grid is

@@ -247,31 +247,35 @@ ShownBox missing(const std::string &label) {
             Icon::critical, "boulix: Erreur N° 3001"};
 }
 
-TEST_F(FileHead, AMissingKeyOfTheTextFormIsReportedByItsLabel) {
-    fileHead full;
-    full.initialize(6);
-    for (const MissingCase &expected : missingCases) {
-        std::string bytes = textForm(full);
-        bytes[bytes.find(expected.key) + 1] = 'x';
+class FileHeadMissing : public FileHead {
+  protected:
+    FileHeadMissing() {
+        fileHead head;
+        head.initialize(6);
+        whole = textForm(head);
+    }
+    void expectReport(const std::string &bytes, const std::string &label) {
         desktop.messages.clear();
         fileHead head;
         load(head, bytes);
-        EXPECT_EQ(desktop.messages, std::vector<ShownBox>{missing(expected.keyLabel)});
+        EXPECT_EQ(desktop.messages, std::vector<ShownBox>{missing(label)});
+    }
+    std::string whole;
+};
+
+TEST_F(FileHeadMissing, AKeyOfTheTextFormIsReportedByItsLabel) {
+    for (const MissingCase &expected : missingCases) {
+        std::string bytes = whole;
+        bytes[bytes.find(expected.key) + 1] = 'x';
+        expectReport(bytes, expected.keyLabel);
     }
 }
 
-TEST_F(FileHead, AMissingValueOfTheTextFormIsReportedByItsLabel) {
-    fileHead full;
-    full.initialize(6);
+TEST_F(FileHeadMissing, AValueOfTheTextFormIsReportedByItsLabel) {
     for (const MissingCase &expected : missingCases) {
-        if (!expected.valueLabel)
-            continue;
-        std::string bytes = textForm(full);
-        bytes.resize(bytes.find(expected.key) + std::string(expected.key).size() + 1);
-        desktop.messages.clear();
-        fileHead head;
-        load(head, bytes);
-        EXPECT_EQ(desktop.messages, std::vector<ShownBox>{missing(expected.valueLabel)});
+        const std::size_t valueAt = whole.find(expected.key) + std::string(expected.key).size();
+        if (expected.valueLabel)
+            expectReport(whole.substr(0, valueAt + 1), expected.valueLabel);
     }
 }
 
