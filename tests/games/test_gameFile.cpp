@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: The Boulix developers
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "files/fileHead.h"
 #include "files/slotFile.h"
 #include "gameTest.h"
 
