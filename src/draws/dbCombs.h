@@ -63,7 +63,8 @@ class dbCombs {
     /// Asks for a file of the operator and merges it. True when the base was merged and saved.
     bool ImportFdjFile();
 
-    /// Checks the game against every draw.
+    /// Checks the game against every draw, moving the bar. `wins[rank][k]` is the k-th draw that
+    /// won at the rank, k from 1 to `winsCount[rank]`; both tables are made anew.
     gameResult VerifyGame(const game &grids, progressBar &bar,
                           std::vector<std::vector<gameWin>> &wins,
                           std::vector<std::int32_t> &winsCount);
