@@ -57,14 +57,21 @@ std::int32_t drawCount(std::int64_t size) {
 
 dbComb &dbCombs::Add(Date day, std::int16_t id, const lotoComb &comb, bool doSave,
                      const std::string & /*key*/) {
-    draws_.emplace_back(day, id, comb);
+    changing().emplace_back(day, id, comb);
     if (doSave)
         save();
     return draws_.back();
 }
 
+const drawIndex &dbCombs::index() const {
+    if (!index_)
+        index_.emplace(draws_);
+    return *index_;
+}
+
 void dbCombs::Remove(std::int64_t index) {
-    draws_.erase(draws_.begin() + static_cast<std::ptrdiff_t>(offsetOf(index)));
+    const auto offset = static_cast<std::ptrdiff_t>(offsetOf(index));
+    changing().erase(draws_.begin() + offset);
     save();
 }
 

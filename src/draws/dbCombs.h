@@ -5,9 +5,11 @@
 
 #include "core/numbers.h"
 #include "draws/dbComb.h"
+#include "draws/drawIndex.h"
 #include "files/xFile.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -33,9 +35,15 @@ class dbCombs {
     dbComb &Add(Date day, std::int16_t id, const lotoComb &comb, bool doSave,
                 const std::string &key);
     /// The draw at `index`, 1 to `Count`; any other fails with `Failure::subscriptOutOfRange`.
+    /// Who changes a draw fetches it for that: a reference that is older than the last use of
+    /// `index` is for reading only.
     const dbComb &Item(std::int64_t index) const { return draws_[offsetOf(index)]; }
-    dbComb &Item(std::int64_t index) { return draws_[offsetOf(index)]; }
+    dbComb &Item(std::int64_t index) { return changing()[offsetOf(index)]; }
     std::int32_t Count() const { return static_cast<std::int32_t>(draws_.size()); }
+
+    /// Where each number stands in the draws. It is made when it is first asked for, and anew
+    /// after whatever may have changed a draw.
+    const drawIndex &index() const;
 
     // The draws in collection order.
     auto begin() const { return draws_.begin(); }
@@ -55,7 +63,7 @@ class dbCombs {
     void ExportDB();
 
     /// Removes all draws, in memory only.
-    void clear() { draws_.clear(); }
+    void clear() { changing().clear(); }
     /// Orders the draws with the exchange sort of this class; an empty base fails.
     void sort();
     /// Reads the file. A missing file is made, a refused one leaves the base empty.
@@ -73,6 +81,11 @@ class dbCombs {
     std::size_t offsetOf(std::int64_t index) const {
         return static_cast<std::size_t>(checkedIndex(index, 1, Count()) - 1);
     }
+    /// The draws on their way to a change: what was known of them does not hold any longer.
+    std::vector<dbComb> &changing() {
+        index_.reset();
+        return draws_;
+    }
     void quickSort(std::int64_t first, std::int64_t last);
     void save();
     /// Appends the draws of the operator's file; false when it was refused or cancelled.
@@ -83,6 +96,7 @@ class dbCombs {
     bool removeDoubles(frmProgress &progress);
 
     std::vector<dbComb> draws_;
+    mutable std::optional<drawIndex> index_;
     xFile dbFile_;
 };
 

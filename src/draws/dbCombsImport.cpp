@@ -125,6 +125,7 @@ bool dbCombs::readImport(const std::string &fileName, frmProgress &progress) {
 void dbCombs::restoreOrder() {
     if (std::is_sorted(draws_.begin(), draws_.end(), isEarlier))
         return;
+    changing();
     std::stable_sort(draws_.begin(), draws_.end(), isEarlier);
     modMain::logLine("dbCombs.ImportFdjFile: ordre rétabli après le tri");
 }
@@ -145,7 +146,7 @@ bool dbCombs::removeDoubles(frmProgress &progress) {
             return false;
         progress.ProgressBar.value = kept;
     }
-    draws_.resize(static_cast<std::size_t>(kept));
+    changing().resize(static_cast<std::size_t>(kept));
     return true;
 }
 
