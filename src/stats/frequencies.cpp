@@ -3,7 +3,9 @@
 
 #include "stats/modStats.h"
 
+#include "core/globals.h"
 #include "core/numberMask.h"
+#include "draws/dbCombs.h"
 #include "stats/statStores.h"
 #include "stats/stretch.h"
 
@@ -14,6 +16,14 @@ namespace {
 void score(ByNumber &counts, const lotoComb &comb) {
     for (int i = 1; i <= lotoComb::size; ++i)
         ++counts[static_cast<std::size_t>(comb.num(i))];
+}
+
+/// What the two routines below come to, from the index of a regular base: how many draws hold all
+/// the chosen numbers and each of the others. With no chosen number that is each draw.
+void countIndexed(ByNumber &counts, const DrawSet &draws, bool withCompl) {
+    forEachNumber(allNumbers, [&](std::int16_t n) {
+        counts[static_cast<std::size_t>(n)] = gDbCombs->index().count(draws, n, withCompl);
+    });
 }
 
 /// Type 1: every number of every draw scores.
@@ -36,7 +46,6 @@ void countPartners(ByNumber &counts, std::span<const dbComb> draws, std::uint64_
         checkNumbers(draw.comb(), 0);
         score(counts, draw.comb());
     }
-    forEachNumber(chosen, [&counts](std::int16_t p) { counts[static_cast<std::size_t>(p)] = 0; });
 }
 
 /// The stored sum where six or seven different numbers can have it, else the sum of the numbers:
@@ -59,16 +68,29 @@ std::int32_t sumWith(const lotoComb &comb) {
     return sum;
 }
 
+/// What `countPair` says, from the mask where it says everything.
+int evenCount(const dbComb &draw, std::int16_t withCompl) {
+    const lotoComb &comb = draw.comb();
+    if (!comb.isWhole())
+        return draw.countPair(withCompl);
+    const int even = std::popcount(comb.mask() & evenNumbers);
+    return even + (withCompl == 1 && comb.compl_() % 2 == 0);
+}
+
 } // namespace
 
 void ComputeFrequency(std::int16_t type, std::uint64_t chosen, std::int16_t withCompl,
                       std::int32_t first, std::int32_t last) {
     const std::span<const dbComb> draws = stretch(first, last);
     ByNumber counts{};
-    if (type == 1)
+    if (isIndexed(draws)) {
+        const DrawSet held = gDbCombs->index().draws(first, last, chosen, withCompl == 1);
+        countIndexed(counts, held, type == 1 && withCompl == 1);
+    } else if (type == 1)
         countAll(counts, draws, withCompl);
     else
         countPartners(counts, draws, chosen, withCompl);
+    forEachNumber(chosen, [&counts](std::int16_t p) { counts[static_cast<std::size_t>(p)] = 0; });
     storeByNumber(counts);
 }
 
@@ -87,7 +109,7 @@ void ComputeEvenCount(std::int16_t withCompl, std::int32_t first, std::int32_t l
     nStatResult = withCompl == 1 ? 8 : 7;
     statResult.fill(nStatResult, 0);
     for (const dbComb &draw : draws)
-        ++statResult(draw.countPair(withCompl) + 1);
+        ++statResult(evenCount(draw, withCompl) + 1);
 }
 
 } // namespace boulix::modStats

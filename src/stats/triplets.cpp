@@ -25,6 +25,8 @@ class DrawnTriplets {
             auto &ofFirst = thirds_[take(numbers)];
             for (std::uint64_t rest = numbers; rest != 0;) {
                 std::uint64_t &third = ofFirst[take(rest)];
+                if (rest == 0)
+                    break;
                 third |= rest;
             }
         }
@@ -65,12 +67,16 @@ void ComputeTriplets(std::int16_t withCompl) {
 }
 
 void FilterTriplets(const selector &chooser) {
+    const std::int16_t n = chooser.nSelectedNbr();
     std::uint64_t selected = 0;
-    for (std::int16_t i = 1; i <= chooser.nSelectedNbr(); ++i)
+    for (std::int16_t i = 1; i <= n; ++i)
         selected |= numberBit(chooser.selectedNbr(i));
-    for (Triplet &triplet : tripletTable)
-        if (std::popcount(maskOf(triplet.num) & selected) < chooser.nSelectedNbr())
-            triplet.flag = -1;
+    for (Triplet &triplet : tripletTable) {
+        std::uint64_t marked = 0;
+        for (const std::int16_t number : triplet.num)
+            marked += (selected >> number) & 1;
+        triplet.flag = static_cast<std::int16_t>(marked) < n ? std::int16_t{-1} : triplet.flag;
+    }
 }
 
 } // namespace boulix::modStats
