@@ -77,9 +77,7 @@ void FileWriter::write(std::string_view bytes) {
 }
 
 void FileWriter::close() {
-    if (std::fflush(file_.get()) != 0)
-        failForFile(errno, name_);
-    if (std::fclose(file_.release()) != 0)
+    if (std::fclose(file_.release()) != 0) // it flushes first, and tells how that went
         failForFile(errno, name_);
 }
 

@@ -63,17 +63,18 @@ Place find(std::string_view text, const std::string &section, const std::string 
         const std::string_view line = withoutBlanks(body);
         if (line.empty() || line.front() == ';')
             continue;
-        const std::size_t equals = body.find('=');
         if (line.front() == '[') {
             inside = sameName(line.substr(1, line.find(']') - 1), section);
             sections += inside ? 1 : 0;
-        } else if (inside && equals != std::string_view::npos &&
-                   sameName(body.substr(0, equals), key)) {
-            place.line = {at, next};
-            place.value = valueStretch(body, at, equals);
-            return place;
-        } else if (equals == std::string_view::npos) {
-            continue;
+        } else {
+            const std::size_t equals = body.find('=');
+            if (equals == std::string_view::npos)
+                continue;
+            if (inside && sameName(body.substr(0, equals), key)) {
+                place.line = {at, next};
+                place.value = valueStretch(body, at, equals);
+                return place;
+            }
         }
         if (inside && sections == 1)
             place.freeLine = next;
