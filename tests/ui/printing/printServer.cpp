@@ -12,7 +12,6 @@
 
 #include <filesystem>
 #include <stdexcept>
-#include <unistd.h>
 
 namespace boulix::testing_support {
 
@@ -119,8 +118,6 @@ std::string outputOf(const QString &tool, const QStringList &arguments) {
 
 PrintServer::PrintServer() {
     try {
-        if (geteuid() != 0)
-            throw std::runtime_error("only root can start one");
         prepareFolder();
         start();
         makeQueues();

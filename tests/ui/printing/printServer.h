@@ -27,7 +27,7 @@ class PrintServer {
     PrintServer(const PrintServer &) = delete;
     PrintServer &operator=(const PrintServer &) = delete;
 
-    /// Why there is no server, empty when it runs. It wants to be started by root.
+    /// Why there is no server, empty when it runs.
     const std::string &problem() const { return problem_; }
 
     /// Makes the two queues anew, or takes all queues away.
