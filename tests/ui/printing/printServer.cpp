@@ -11,6 +11,7 @@
 #include <QThread>
 
 #include <filesystem>
+#include <functional>
 #include <stdexcept>
 
 namespace boulix::testing_support {
@@ -102,6 +103,13 @@ const char *const printerDescription = R"PPD(*PPD-Adobe: "4.3"
 *DefaultPaperDimension: A4
 *PaperDimension A4: "595 842"
 )PPD";
+
+/// Waits for what the server does behind the back of its clients.
+void waitUntil(const std::function<bool()> &done, const std::string &trouble) {
+    for (const QDeadlineTimer deadline(patience); !done(); QThread::msleep(20))
+        if (deadline.hasExpired())
+            throw std::runtime_error(trouble);
+}
 
 } // namespace
 
@@ -208,16 +216,13 @@ std::string PrintServer::lastDocument() const {
 }
 
 std::string PrintServer::lastOrder() const {
-    return readBytes(spoolFile('c', documents(), ""));
+    const std::string order = spoolFile('c', documents(), "");
+    waitUntil([&order] { return fs::exists(order); }, "the server keeps the order to itself");
+    return readBytes(order);
 }
 
 std::string PrintServer::lastOutput() const {
-    const QDeadlineTimer deadline(patience);
-    while (waits("Salon")) {
-        if (deadline.hasExpired())
-            throw std::runtime_error("the document does not come out of the queue");
-        QThread::msleep(20);
-    }
+    waitUntil([this] { return !waits("Salon"); }, "the document does not come out of the queue");
     return readBytes(folder_ + "/salon.pdf");
 }
 
