@@ -10,11 +10,13 @@
 #include "printing/modPrinter.h"
 #include "stats/frmGraph.h"
 #include "ui/databaseTab.h"
+#include "ui/drawAnalysisTab.h"
 #include "ui/frmAbout.h"
 #include "ui/graph/graphParamDialog.h"
 #include "ui/iconLoader.h"
 #include "ui/printing/gridParamDialog.h"
 #include "ui/qtText.h"
+#include "ui/statisticsTab.h"
 #include "ui/theme.h"
 
 #include <QAction>
@@ -66,13 +68,26 @@ MainWindow::~MainWindow() {
     main_.view(nullptr);
 }
 
+QWidget *MainWindow::makePage(int index) {
+    switch (index) {
+    case 0:
+        return new DatabaseTab(main_.database, TabStrip);
+    case 1:
+        return new StatisticsTab(main_.statistics, TabStrip);
+    case 2:
+        return new DrawAnalysisTab(main_.analysis, TabStrip);
+    default:
+        return new QWidget(TabStrip);
+    }
+}
+
 void MainWindow::makePages() {
     TabStrip->setObjectName(QStringLiteral("TabStrip"));
     TabStrip->setDocumentMode(true);
     TabStrip->setIconSize({18, 18});
     const auto looks = tabLooks();
     for (std::size_t i = 0; i < looks.size(); ++i) {
-        QWidget *page = i == 0 ? new DatabaseTab(main_.database, TabStrip) : new QWidget(TabStrip);
+        QWidget *page = makePage(static_cast<int>(i));
         page->setObjectName(QStringLiteral("frameTab_%1").arg(i));
         const int tab = TabStrip->addTab(page, loadIcon(looks[i].icon), looks[i].caption);
         TabStrip->setTabToolTip(tab, QString::fromUtf8(frmMain::tabs[i].toolTip));

@@ -32,6 +32,7 @@ class MainWindow : public QMainWindow, public frmMainView {
 
   private:
     void makePages();
+    QWidget *makePage(int index);
     void makeMenus();
     void makeStatusBar();
     QAction *addEntry(QMenu &menu, const QString &name, const QString &caption,

@@ -19,6 +19,7 @@
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QRadioButton>
+#include <QTimer>
 #include <QVBoxLayout>
 
 namespace boulix {
@@ -120,7 +121,8 @@ void GraphWindow::refresh() {
 
 void GraphWindow::closeEvent(QCloseEvent *event) {
     QWidget::closeEvent(event);
-    emit closedByUser();
+    // Later, because whoever hears of it may delete the window.
+    QTimer::singleShot(0, this, &GraphWindow::closedByUser);
 }
 
 } // namespace boulix
