@@ -69,8 +69,10 @@ void selector::selectNbr() {
     dialog.grd.editable(true);
     dialog.grd.clearSelection();
     dialog.grd.maxSelected(nSelectedNbr_);
-    const std::int16_t preset =
-        nSelectedNbr_ != 0 ? modMaths::minOf(nSelectedNbr_, nPrevSelected_) : nPrevSelected_;
+    // A selection made since then can hold fewer numbers than were set.
+    const auto held = static_cast<std::int16_t>(selected_.size());
+    const std::int16_t set = modMaths::minOf(nPrevSelected_, held);
+    const std::int16_t preset = nSelectedNbr_ != 0 ? modMaths::minOf(nSelectedNbr_, set) : set;
     for (std::int16_t i = 1; i <= preset; ++i)
         dialog.grd.selectNumber(numberAt(i));
 

@@ -5,6 +5,7 @@
 
 #include <array>
 #include <charconv>
+#include <cmath>
 
 namespace boulix {
 
@@ -136,6 +137,23 @@ std::string plainDecimal(float value) {
     const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
                                    std::chars_format::fixed);
     return {buffer.data(), end.ptr};
+}
+
+std::string plainAmount(float value) {
+    constexpr int digits = 7;
+    int decimals = digits - 1;
+    for (double rest = std::abs(double{value}); rest >= 10 && decimals > 0; rest /= 10)
+        --decimals;
+    std::array<char, 64> buffer{};
+    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
+                                   std::chars_format::fixed, decimals);
+    std::string text(buffer.data(), end.ptr);
+    if (decimals > 0) {
+        text.erase(text.find_last_not_of('0') + 1);
+        if (text.back() == '.')
+            text.pop_back();
+    }
+    return text;
 }
 
 std::string toWestern(std::string_view utf8) {

@@ -30,6 +30,10 @@ std::string zeroPadded(std::int64_t value, int width);
 /// the same single-precision value, with a dot, never an exponent.
 std::string plainDecimal(float value);
 
+/// A computed amount as it is shown: a plain decimal with the digits that single precision can
+/// vouch for, seven, or all of them before the dot; no zeros at its end.
+std::string plainAmount(float value);
+
 /// UTF-8 to the single bytes of the Windows Western code page (1252); a character that does not
 /// exist there becomes "?", and so does a byte that is no UTF-8.
 std::string toWestern(std::string_view utf8);

@@ -31,6 +31,13 @@ void underHandler(const std::function<void()> &routine) {
     }
 }
 
+std::vector<std::int16_t> markedNumbers(const NumberBoard &board) {
+    std::vector<std::int16_t> numbers;
+    for (std::int16_t i = 1; i <= board.selectedCount(); ++i)
+        numbers.push_back(board.selectedNumber(i));
+    return numbers;
+}
+
 } // namespace
 
 const std::array<TabText, frmMain::tabCount> frmMain::tabs = {{
@@ -42,7 +49,14 @@ const std::array<TabText, frmMain::tabCount> frmMain::tabs = {{
     {"Pronostiques", "Permet de configurer et de tester des méthodes de pronostiques"},
 }};
 
-frmMain::frmMain() : database(*this), statistics(*this), analysis(statistics.grdStatNbrSelector) {}
+frmMain::frmMain()
+    : database(*this), statistics(*this), analysis(statistics.grdStatNbrSelector),
+      games(elimination) {
+    games.design.markedInStatistics = [this] {
+        return markedNumbers(statistics.grdStatNbrSelector);
+    };
+    games.design.tickedInForecasts = [this] { return forecasts.tickedNumbers(); };
+}
 
 void frmMain::load() {
     caption = gAppInfo->fullName();
@@ -70,7 +84,9 @@ void frmMain::initTabs() {
     logLine("frmMain.frmInitTab: Initialisation de l'onglet de statistiques");
     statistics.init();
     logLine("frmMain.frmInitTab: Initialisation de l'onglet des éliminateurs");
+    elimination.init();
     logLine("frmMain.frmInitTab: Initialisation de l'onglet des jeux");
+    games.init();
     logLine("frmMain.frmInitTab: Initialisation de l'onglet des statistiques par tirage");
     analysis.init();
     logLine("frmMain.frmInitTab: Initialisation de l'onglet de pronostiques");

@@ -5,7 +5,9 @@
 
 #include "workbench/databasePage.h"
 #include "workbench/drawAnalysisPage.h"
+#include "workbench/eliminatorPage.h"
 #include "workbench/forecastPage.h"
+#include "workbench/gamePage.h"
 #include "workbench/statisticsPage.h"
 #include "workbench/windowFrame.h"
 
@@ -44,6 +46,8 @@ class frmMain : public windowFrame {
     databasePage database;
     statisticsPage statistics;
     drawAnalysisPage analysis;
+    eliminatorPage elimination;
+    gamePage games;
     forecastPage forecasts;
 
     void view(frmMainView *view) { view_ = view; }

@@ -6,7 +6,9 @@
 #include "core/globals.h"
 #include "core/modMaths.h"
 #include "draws/dbCombs.h"
+#include "eliminators/eliminators.h"
 #include "forecasts/pronostics.h"
+#include "games/modGame.h"
 #include "printing/gridConfig.h"
 #include "printing/modPrinter.h"
 #include "stats/graphSettings.h"
@@ -16,18 +18,27 @@
 
 namespace boulix::modMain {
 
+namespace {
+
+void initGameTypes() {
+    modStats::InitTripletTable();
+    modGame::init();
+}
+
+} // namespace
+
 const std::vector<StartUpStep> &startUpSteps() {
     static const std::vector<StartUpStep> steps = {
         {"Précalcul des Cnk", modMaths::precomputeCnk},
         {"Initialisation des types de statistique", modStats::InitStatTypes},
         {"Initialisation des paramètres graphiques des statistiques", modStats::InitGraphTypes},
-        {"Initialisation des types de jeu", modStats::InitTripletTable},
-        {"Chargement des jeux réduits utilisateur", nullptr},
+        {"Initialisation des types de jeu", initGameTypes},
+        {"Chargement des jeux réduits utilisateur", modGame::loadUserGames},
         {"Initialisation des paramètres d'impression", modPrinter::loadSettings},
         {"Initialisation des paramètres de grille", [] { gGridConfig->load(); }},
         {"Chargement en mémoire de la base de données des tirages", [] { gDbCombs->load(); }},
         {"Chargement du fichier de rapport par défaut", [] { gRapport->loadDefFile(); }},
-        {"Initialisation des éliminateurs", nullptr, true},
+        {"Initialisation des éliminateurs", [] { gEliminators->init(); }, true},
         {"Initialisation des pronostiques", [] { gPronostics->init(); }, true},
     };
     return steps;

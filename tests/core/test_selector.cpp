@@ -50,6 +50,17 @@ TEST_F(Selector, OpensAnEditableBoardWithTheLimit) {
     EXPECT_EQ(desktop.numberShowings.at(0).lblStatusAfter, "1 numéros");
 }
 
+TEST_F(Selector, MarksNoMoreNumbersThanTheLastSelectionLeft) {
+    chosen.setPrevSelect(5, {1, 2, 3, 4, 5});
+    chosen.setSelect(49, 0);
+    desktop.answerNumbers(NumberScript().click({2, 4}).ok()); // two of the five off
+    chosen.selectNbr();
+    chosen.setSelect(49, 0);
+    desktop.answerNumbers(NumberScript().cancel());
+    chosen.selectNbr();
+    EXPECT_EQ(desktop.numberShowings.at(1).markedBefore, (Numbers{1, 3, 5}));
+}
+
 TEST_F(Selector, WithTooFewNumbersSaysSoAndComesBackWithThemStillMarked) {
     chosen.setSelect(7, 7);
     desktop.answerNumbers(NumberScript().click({1, 2, 3, 4, 5, 6}).ok());

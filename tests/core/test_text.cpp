@@ -67,6 +67,25 @@ bool isUndefined(int byte) {
     return byte == 0x81 || byte == 0x8D || byte == 0x8F || byte == 0x90 || byte == 0x9D;
 }
 
+TEST(PlainAmount, ShowsSevenDigitsWithoutZerosAtTheEnd) {
+    const std::pair<float, const char *> amounts[] = {
+        {0.0F, "0"},
+        {0.6F, "0.6"},
+        {0.6F * 28, "16.8"},
+        {0.6F * 18, "10.8"},
+        {5.0F, "5"},
+        {1234.5F, "1234.5"},
+        {0.1F + 0.2F, "0.3"},
+        {123456.7F, "123456.7"},
+        {8390289.5F, "8390290"},
+        {13983816.0F, "13983816"},
+        {-2.25F, "-2.25"},
+        {1e10F, "10000000000"},
+    };
+    for (const auto &[amount, text] : amounts)
+        EXPECT_EQ(plainAmount(amount), text);
+}
+
 TEST(CodePage, EveryByteComesBackAsItWas) {
     for (int byte = 0; byte < 256; ++byte) {
         const std::string stored(1, static_cast<char>(byte));

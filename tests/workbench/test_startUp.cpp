@@ -9,6 +9,8 @@
 #include "core/modMaths.h"
 #include "core/text.h"
 #include "draws/dbCombs.h"
+#include "eliminators/eliminators.h"
+#include "games/modGame.h"
 #include "support/boulixTest.h"
 #include "workbench/frmMain.h"
 
@@ -171,6 +173,35 @@ TEST_F(StartUp, AForeignBaseIsRefusedWithAMessageAndTheStartGoesOn) {
     EXPECT_EQ(desktop.messages[0].title, "boulix: Erreur N° 4401");
     EXPECT_TRUE(desktop.mainWindowShown);
     EXPECT_EQ(testing_support::readBytes(file("tirages.dbl")), std::string(50, 'x'));
+}
+
+TEST_F(StartUp, TheCarriedSystemsAndTheEliminationRulesAreThere) {
+    start("");
+    EXPECT_EQ(modGame::nReducedGames(), 9);
+    EXPECT_EQ(gEliminators->Count(), 8);
+    EXPECT_EQ(mainWindow->elimination.chkEliminator(7), gEliminators->Item(8).label());
+    EXPECT_EQ(mainWindow->games.design.cmbGameType().size(), 9U);
+}
+
+TEST_F(StartUp, AUserSystemWhoseFileIsGoneIsToldAndTheStartGoesOn) {
+    testing_support::writeBytes(file("boulix.ini"), "[jeux reduits]\r\njeu0=rgame-0.gam\r\n");
+    start("");
+    ASSERT_FALSE(desktop.messages.empty());
+    EXPECT_EQ(desktop.messages[0].title, "Boulix Erreur système N° 53");
+    EXPECT_EQ(modGame::nReducedGames(), 10);
+    EXPECT_TRUE(desktop.mainWindowShown);
+}
+
+TEST_F(StartUp, AnEntryOfAFixedPositionSystemStopsTheStart) {
+    testing_support::writeBytes(file("boulix.ini"),
+                                "[jeux a positions fixes]\r\njeu0=fgame-0.gam\r\n");
+    start("");
+    ASSERT_EQ(desktop.messages.size(), 1U);
+    EXPECT_EQ(desktop.messages[0],
+              (ShownBox{"Jeu à positions fixes sans définition: entrée jeu0=fgame-0.gam de la "
+                        "section [jeux a positions fixes] du fichier boulix.ini",
+                        Icon::critical, "Boulix Erreur système N° 91"}));
+    EXPECT_FALSE(desktop.mainWindowShown);
 }
 
 TEST_F(StartUp, ALogThatCannotBeOpenedIsAFailureOfTheWholeStart) {

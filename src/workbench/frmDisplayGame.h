@@ -1,0 +1,25 @@
+// SPDX-FileCopyrightText: The Boulix developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "core/reportList.h"
+
+namespace boulix {
+
+class gameDef;
+
+/// The window that shows the rows of one system.
+class frmDisplayGame {
+  public:
+    static constexpr const char *cmdExit = "Quitter";
+
+    /// Shows `def`, which must outlive the window.
+    explicit frmDisplayGame(const gameDef &def);
+    frmDisplayGame(const frmDisplayGame &) = delete;
+    frmDisplayGame &operator=(const frmDisplayGame &) = delete;
+
+    reportList lvwGame;
+};
+
+} // namespace boulix

@@ -1,0 +1,77 @@
+// SPDX-FileCopyrightText: The Boulix developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "core/reportList.h"
+#include "workbench/gameDesign.h"
+
+#include <array>
+#include <cstdint>
+#include <functional>
+#include <vector>
+
+namespace boulix {
+
+class eliminatorPage;
+
+/// What the game page asks of its screen.
+class gameView : public gameDesignView {
+  public:
+    /// The selected rows of `lvwGame`, counted from 1, ascending.
+    virtual std::vector<std::int64_t> selectedRows() const = 0;
+};
+
+/// The page on which a game is composed. This half is the left side, the game of the user with
+/// its toolbar; `design` is the right side, where grids and systems are made.
+class gamePage {
+  public:
+    /// The buttons of `tbarGame`. The last one only opens its menu.
+    enum Button { loadGame = 1, clearGame, removeGrids, eliminateGrids, saveGame, printGame };
+    static const std::array<ControlText, 6> tbarGame;
+    /// The entries of the menu of "Imprimer".
+    enum PrintEntry { printList = 1, printSlips, printCanvas };
+    static const std::array<const char *, 3> printMenu;
+    /// The sub-tabs on the right side; the last one is `design`.
+    static const std::array<const char *, 4> TabGame;
+
+    /// `rules` is the page whose values the elimination takes.
+    explicit gamePage(eliminatorPage &rules);
+    gamePage(const gamePage &) = delete;
+    gamePage &operator=(const gamePage &) = delete;
+
+    reportList lvwGame;
+    gameDesign design;
+    /// Called when the list shows a new game, so that the game is verified anew.
+    std::function<void()> gameShown;
+
+    /// Sets the columns and the state of all controls at the start.
+    void init();
+    void view(gameView *view);
+
+    /// Whether `lvwGame` is kept filled; ticking the box fills it.
+    bool chkUpdateList() const { return chkUpdateList_; }
+    void tickUpdateList(bool on);
+    /// Shows `currentGame` in the list, behind a progress window. A cancel leaves the list empty
+    /// and the game whole.
+    void refill();
+
+    /// A click on a button of `tbarGame`. A failure ends the command and is shown, and the list
+    /// then shows what the game holds.
+    void clickButton(int index);
+    /// A click on an entry of the menu of "Imprimer"; nothing happens while the game is empty.
+    void clickPrint(int entry);
+
+  private:
+    void runButton(int index);
+    void clear();
+    void removeSelected();
+    void eliminate();
+    void fill();
+
+    eliminatorPage &rules_;
+    gameView *view_ = nullptr;
+    bool chkUpdateList_ = true;
+};
+
+} // namespace boulix

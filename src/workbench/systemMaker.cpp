@@ -1,0 +1,117 @@
+// SPDX-FileCopyrightText: The Boulix developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "workbench/systemMaker.h"
+
+#include "core/failure.h"
+#include "core/globals.h"
+#include "core/numbers.h"
+#include "core/text.h"
+#include "games/game.h"
+#include "games/modGame.h"
+#include "printing/gridConfig.h"
+#include "workbench/frmGameList.h"
+
+#include <algorithm>
+
+namespace boulix {
+
+void numberBox::init(std::int32_t first, std::int32_t last, std::int32_t value) {
+    upDownControl.range(first, last);
+    upDownControl.set(value);
+    text = std::to_string(upDownControl.value());
+}
+
+void numberBox::confirm() {
+    const double typed = numericPrefix(text);
+    upDownControl.set(toInt32(std::clamp<double>(typed, upDownControl.min(), upDownControl.max())));
+    text = std::to_string(upDownControl.value());
+}
+
+systemMaker::systemMaker() {
+    nFixed.upDownControl.changed = [this] {
+        const std::int32_t value = nFixed.upDownControl.value();
+        nFixed.text = std::to_string(value);
+        if (value >= nWin.upDownControl.value())
+            nWin.upDownControl.set(value + 1);
+    };
+    nWin.upDownControl.changed = [this] {
+        const std::int32_t value = nWin.upDownControl.value();
+        nWin.text = std::to_string(value);
+        if (nFixed.upDownControl.value() >= value)
+            nFixed.upDownControl.set(value - 1);
+    };
+    nChoosen.upDownControl.changed = [this] {
+        nChoosen.text = std::to_string(nChoosen.upDownControl.value());
+    };
+}
+
+void systemMaker::init() {
+    nWin.init(1, 6, 1);
+    nFixed.init(0, 5, 0);
+    nChoosen.init(7, 49, 7);
+}
+
+void systemMaker::runButton(int index) {
+    switch (index) {
+    case addSystem:
+        return add();
+    case listSystems:
+        return manage();
+    case computeSystem:
+        return compute();
+    default:
+        return;
+    }
+}
+
+void systemMaker::compute() {
+    nWin.confirm();
+    nFixed.confirm();
+    nChoosen.confirm();
+    createNWin_ = narrow16(nWin.upDownControl.value());
+    createNFixed_ = narrow16(nFixed.upDownControl.value());
+    createNChosen_ = narrow16(nChoosen.upDownControl.value());
+    newGameDef_ = std::make_shared<gameDef>();
+    if (!newGameDef_->compute(createNFixed_, createNWin_, createNChosen_)) {
+        newGameDef_.reset(); // half a system guarantees nothing
+        return;
+    }
+    game rows;
+    for (std::int32_t i = 1; i <= newGameDef_->nComb(); ++i)
+        rows.Add(newGameDef_->sharedRow(i));
+    computed(rows);
+    lblnGameDefComb = std::to_string(newGameDef_->nComb()) + " combinaisons";
+    showCost();
+}
+
+void systemMaker::showCost() {
+    const double amount = double{gGridConfig->price()} * newGameDef_->nComb();
+    const auto cost = static_cast<float>(amount);
+    lblCost = plainAmount(cost) + " " + gGridConfig->monneyUnit();
+    if (cost != 0)
+        lblCost += "s";
+}
+
+void systemMaker::add() {
+    modGame::GameList &list = createNFixed_ != 0 ? modGame::fixedGames : modGame::reducedGames;
+    const std::int16_t nReduced = narrow16(modGame::nReducedGames() - modGame::nPredefReduced);
+    const std::int16_t nFixedGame = narrow16(modGame::nFixedGames() - modGame::nPredefFixed);
+    if (!newGameDef_)
+        fail(Failure::objectNotSet);
+    if (!modGame::addUserGame(*newGameDef_, list))
+        return;
+    list.back().save(nReduced, nFixedGame);
+    listsChanged();
+}
+
+void systemMaker::manage() {
+    if (!view_)
+        return;
+    frmGameList window;
+    view_->runGameList(window);
+    if (window.changedMark())
+        listsChanged();
+}
+
+} // namespace boulix
