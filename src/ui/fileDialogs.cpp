@@ -38,6 +38,7 @@ void prepare(QFileDialog &dialog, const FileQuestion &question) {
     dialog.setWindowTitle(toQt(question.title));
     dialog.setDirectory(toQt(question.folder));
     dialog.setNameFilters(nameFilters(question.filter));
+    dialog.resize(760, 480); // where the dialog is Qt's own, its columns need the room
 }
 
 QString chosenFile(QFileDialog &dialog) {

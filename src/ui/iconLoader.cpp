@@ -30,9 +30,10 @@ QString fileOf(const QString &name) {
 /// Draws an icon of two colours in those of the palette, at whatever size it is asked for.
 class PaletteIconEngine : public QIconEngine {
   public:
-    explicit PaletteIconEngine(QString name) : name_(std::move(name)) {}
+    /// `only`: the one colour of all lines; an invalid one leaves the choice to the palette.
+    PaletteIconEngine(QString name, const QColor &only) : name_(std::move(name)), only_(only) {}
 
-    QIconEngine *clone() const override { return new PaletteIconEngine(name_); }
+    QIconEngine *clone() const override { return new PaletteIconEngine(name_, only_); }
     QString key() const override { return QStringLiteral("boulix"); }
 
     void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State) override {
@@ -62,7 +63,7 @@ class PaletteIconEngine : public QIconEngine {
         QColor neutral, accent;
     };
 
-    static Colours colours(QIcon::Mode mode) {
+    Colours colours(QIcon::Mode mode) const {
         const QPalette palette = QGuiApplication::palette();
         switch (mode) {
         case QIcon::Disabled: {
@@ -74,6 +75,8 @@ class PaletteIconEngine : public QIconEngine {
             return {text, text};
         }
         default:
+            if (only_.isValid())
+                return {only_, only_};
             return {palette.color(QPalette::Active, QPalette::ButtonText), theme::accent};
         }
     }
@@ -89,14 +92,19 @@ class PaletteIconEngine : public QIconEngine {
     }
 
     QString name_;
+    QColor only_;
 };
 
 } // namespace
 
 QIcon loadIcon(const QString &name) {
+    return loadIconIn(name, QColor());
+}
+
+QIcon loadIconIn(const QString &name, const QColor &colour) {
     if (!QFile::exists(fileOf(name)))
         return {};
-    return QIcon(new PaletteIconEngine(name));
+    return QIcon(new PaletteIconEngine(name, colour));
 }
 
 QIcon logoIcon() {

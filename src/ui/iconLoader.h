@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QColor>
 #include <QIcon>
 #include <QPixmap>
 #include <QString>
@@ -12,6 +13,9 @@ namespace boulix {
 /// The icon `name` of the program's family (`import`, `print` ...), in the colours of the
 /// palette in use when it is drawn. A name that does not exist gives a null icon.
 QIcon loadIcon(const QString &name);
+
+/// The same with every line in `colour`, except when it is disabled or selected.
+QIcon loadIconIn(const QString &name, const QColor &colour);
 
 /// The program's logo, for title bars and task bars.
 QIcon logoIcon();

@@ -97,10 +97,7 @@ void ReportView::copySelected() const {
 }
 
 void ReportView::copyAll() const {
-    QStringList headers;
-    for (const ReportColumn &column : model_->list().columns())
-        headers << toQt(column.header);
-    QString text = headers.join(QLatin1Char('\t')) + QLatin1Char('\n');
+    QString text = headers_.join(QLatin1Char('\t')) + QLatin1Char('\n');
     appendRows(text, *model_, 0, rowCount() - 1);
     QApplication::clipboard()->setText(text);
 }
@@ -129,13 +126,22 @@ QSize ReportView::minimumSizeHint() const {
     return {12 * fontMetrics().averageCharWidth(), header_->sizeHint().height() + 5 * rowHeight_};
 }
 
-/// New rows: the place in the list stays where it was, as far as the list still reaches.
+/// New rows: the place in the list stays where it was, as far as the list still reaches. A list
+/// is emptied before it is filled again, so the place outlives an empty list; new columns begin
+/// at the top.
 void ReportView::reset() {
-    const int top = verticalScrollBar()->value();
+    if (verticalScrollBar()->maximum() > 0)
+        top_ = verticalScrollBar()->value();
+    QStringList headers;
+    for (const ReportColumn &column : model_->list().columns())
+        headers << toQt(column.header);
+    if (headers != headers_)
+        top_ = 0;
+    headers_ = headers;
     QAbstractItemView::reset();
     sizeColumns();
     updateGeometries();
-    verticalScrollBar()->setValue(top);
+    verticalScrollBar()->setValue(top_);
 }
 
 void ReportView::changeEvent(QEvent *event) {

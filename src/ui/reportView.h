@@ -77,7 +77,9 @@ class ReportView : public QAbstractItemView {
 
     std::unique_ptr<ReportListModel> model_;
     QHeaderView *header_;
+    QStringList headers_;
     int rowHeight_ = 1;
+    int top_ = 0; ///< the first visible row when there were rows last
 };
 
 } // namespace boulix

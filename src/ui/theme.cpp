@@ -3,8 +3,9 @@
 
 #include "ui/theme.h"
 
+#include "ui/programStyle.h"
+
 #include <QApplication>
-#include <QStyleFactory>
 
 #include <utility>
 
@@ -131,7 +132,7 @@ void apply(QApplication &application) {
 }
 
 void apply(QApplication &application, const QPalette &palette) {
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setStyle(new ProgramStyle);
     QApplication::setPalette(palette);
     application.setStyleSheet(styleSheetFor(palette));
 }

@@ -13,6 +13,8 @@ namespace boulix::theme {
 /// The two colours in which the icons are drawn.
 inline const QColor neutral{0x3b, 0x42, 0x52};
 inline const QColor accent{0x2f, 0x91, 0x60};
+/// What went wrong is shown in this one, on light and on dark grounds.
+inline const QColor alarm{0xd0, 0x45, 0x3e};
 
 /// The light ground that the splash window and the credits bring along, and the ink on it.
 inline const QColor paper{0xf1, 0xf6, 0xf2};

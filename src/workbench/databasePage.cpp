@@ -51,6 +51,7 @@ void databasePage::init() {
     for (const char *header : {"T", "1", "2", "3", "4", "5", "6", "C"})
         columns.push_back({header, " 000 ", true});
     lvwDBcomb.columns(std::move(columns));
+    grdDB.editable(false); // it only displays, on an empty base too
 }
 
 void databasePage::fillList() {

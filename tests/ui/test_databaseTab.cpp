@@ -143,6 +143,12 @@ TEST_F(DatabaseTabTest, TheBoardOnlyDisplays) {
     EXPECT_EQ(mainWindow->database.grdDB.selectedCount(), 7);
 }
 
+TEST_F(DatabaseTabTest, TheBoardOfAnEmptyBaseTakesNoClicksEither) {
+    auto &board = control<NumberBoardView>(window, "grdDB");
+    QTest::mouseClick(&board, Qt::LeftButton, {}, board.boxOf(1).center().toPoint());
+    EXPECT_EQ(mainWindow->database.grdDB.selectedCount(), 0);
+}
+
 TEST_F(DatabaseTabTest, ADrawIsAddedThroughTheTwoDialogs) {
     importThreeDraws();
     robot

@@ -142,6 +142,17 @@ TEST_F(ReportViewTest, NewRowsAreNotSelectedAndThePlaceInTheListStays) {
     EXPECT_EQ(view->verticalScrollBar()->value(), 500);
     list.clear();
     EXPECT_EQ(view->verticalScrollBar()->value(), 0);
+    list.rows(998, cell);
+    EXPECT_EQ(view->verticalScrollBar()->value(), 500);
+}
+
+TEST_F(ReportViewTest, NewColumnsBeginAtTheTop) {
+    list.rows(1000, cell);
+    show();
+    view->verticalScrollBar()->setValue(500);
+    list.columns({{"Autre", "", false}});
+    list.rows(1000, cell);
+    EXPECT_EQ(view->verticalScrollBar()->value(), 0);
 }
 
 TEST_F(ReportViewTest, CtrlCCopiesTheSelectedRowWithTabs) {

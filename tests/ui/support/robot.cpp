@@ -10,6 +10,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTimer>
+#include <QWindow>
 #include <QtTest/QTest>
 
 #include <gtest/gtest.h>
@@ -21,11 +22,17 @@ namespace {
 constexpr int pollMilliseconds = 5;
 constexpr int patienceMilliseconds = 10'000;
 
+bool onScreen(const QWidget &window) {
+    return window.isVisible() && window.windowHandle() && window.windowHandle()->isExposed();
+}
+
 /// The window that takes input: the topmost modal one, or else any visible one of that name.
+/// Nothing before the user could see it.
 QWidget *windowForInput(const QString &name) {
-    if (QWidget *modal = QApplication::activeModalWidget())
-        return modal->objectName() == name && modal->isVisible() ? modal : nullptr;
-    return visibleWindow(name);
+    QWidget *window = QApplication::activeModalWidget();
+    if (!window)
+        window = visibleWindow(name);
+    return window && window->objectName() == name && onScreen(*window) ? window : nullptr;
 }
 
 std::string describe(const QWidget &window) {
@@ -113,21 +120,28 @@ void Robot::poll() {
     watch();
     const bool waiting = !steps_.empty();
     QWidget *window = waiting ? windowForInput(steps_.front().window) : nullptr;
-    if (window) {
-        const Step step = steps_.front().step;
-        steps_.pop_front();
-        sinceStep_.start();
-        try {
-            step(*window);
-        } catch (const std::exception &error) {
-            ADD_FAILURE() << error.what();
-            giveUp();
-        }
+    if (window && window != busyIn_) {
+        runStep(*window);
     } else if (!waiting && !QApplication::activeModalWidget()) {
         sinceStep_.start();
     } else if (sinceStep_.hasExpired(patienceMilliseconds)) {
         giveUp();
     }
+}
+
+void Robot::runStep(QWidget &window) {
+    const Step step = steps_.front().step;
+    steps_.pop_front();
+    const QPointer<QWidget> before = busyIn_;
+    busyIn_ = &window;
+    try {
+        step(window);
+    } catch (const std::exception &error) {
+        ADD_FAILURE() << error.what();
+        giveUp();
+    }
+    busyIn_ = before;
+    sinceStep_.start();
 }
 
 /// Ends every dialog that waits for the user until the program is free again.

@@ -6,6 +6,7 @@
 #include <QElapsedTimer>
 #include <QMessageBox>
 #include <QObject>
+#include <QPointer>
 #include <QWidget>
 
 #include <deque>
@@ -57,6 +58,7 @@ class Robot : public QObject {
     void add(const char *window, const Step &step);
     void watch();
     void poll();
+    void runStep(QWidget &window);
     void giveUp();
 
     struct Waiting {
@@ -64,7 +66,8 @@ class Robot : public QObject {
         Step step;
     };
     std::deque<Waiting> steps_;
-    QElapsedTimer sinceStep_; // or since no dialog was up
+    QPointer<QWidget> busyIn_; // the next step waits until the one in this window is done
+    QElapsedTimer sinceStep_;  // or since no dialog was up
 };
 
 } // namespace boulix::testing_support

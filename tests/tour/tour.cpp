@@ -1,0 +1,100 @@
+// SPDX-FileCopyrightText: The Boulix developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "tour/tour.h"
+
+#include "support/locations.h"
+#include "ui/numberBoardView.h"
+#include "ui/reportView.h"
+
+#include <QAction>
+#include <QLabel>
+#include <QScreen>
+#include <QToolBar>
+#include <QtTest/QTest>
+
+#include <cstdio>
+#include <filesystem>
+
+namespace boulix {
+
+namespace {
+
+constexpr int settleMilliseconds = 150; // until windows are mapped, framed and painted
+
+/// The part of the screen that the program's windows take, with their frames.
+QRect windowsOnScreen() {
+    QRect area;
+    for (const QWidget *window : QApplication::topLevelWidgets())
+        if (window->isVisible())
+            area |= window->frameGeometry();
+    return area;
+}
+
+} // namespace
+
+Tour::Tour() {
+    std::filesystem::remove(file("defrapp.rap")); // the evening begins with nothing
+    platform.day = dateOf({2003, 11, 19});
+}
+
+void Tour::startProgram() {
+    start();
+    QTest::qWait(settleMilliseconds);
+}
+
+void Tour::endProgram() {
+    forget();
+}
+
+void Tour::picture(const char *name) {
+    for (QWidget *window : QApplication::topLevelWidgets())
+        EXPECT_TRUE(!window->isVisible() || QTest::qWaitForWindowExposed(window));
+    QTest::qWait(settleMilliseconds);
+    const QRect area = windowsOnScreen();
+    QScreen *screen = QGuiApplication::primaryScreen();
+    const QPixmap seen = screen->grabWindow(0, area.x(), area.y(), area.width(), area.height());
+    const QString file = QStringLiteral("%1-%2.png")
+                             .arg(++pictures_, 2, 10, QLatin1Char('0'))
+                             .arg(QString::fromUtf8(name));
+    const auto path = testing_support::picturesFolder() / file.toStdString();
+    EXPECT_TRUE(seen.save(QString::fromStdString(path.string()))) << path;
+    std::printf("   %s\n", file.toStdString().c_str());
+    std::fflush(stdout);
+}
+
+void Tour::press(const char *action) {
+    auto &button = control<QAction>(window(), action);
+    for (QToolBar *bar : window().findChildren<QToolBar *>())
+        if (bar->actions().contains(&button))
+            return click(*bar->widgetForAction(&button));
+    ADD_FAILURE() << action << " is on no toolbar";
+}
+
+void Tour::clickRow(ReportView &list, int row) {
+    const QModelIndex index = list.model()->index(row - 1, 0);
+    list.scrollTo(index);
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, list.visualRect(index).center());
+}
+
+void Tour::clickNumbers(NumberBoardView &board, std::initializer_list<std::int16_t> numbers) {
+    for (const std::int16_t n : numbers)
+        QTest::mouseClick(&board, Qt::LeftButton, {}, board.boxOf(n).center().toPoint());
+}
+
+std::string Tour::rowText(const ReportView &list, int row) {
+    QStringList cells;
+    for (int column = 0; column < list.model()->columnCount(); ++column)
+        cells << list.model()->index(row - 1, column).data().toString();
+    return cells.join(QLatin1Char(' ')).toStdString();
+}
+
+std::string Tour::label(const char *name) const {
+    return control<QLabel>(window(), name).text().toStdString();
+}
+
+ReportView &Tour::list(const char *name) const {
+    return control<ReportView>(window(), name);
+}
+
+} // namespace boulix

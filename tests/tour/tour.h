@@ -1,0 +1,55 @@
+// SPDX-FileCopyrightText: The Boulix developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "ui/support/screenTest.h"
+
+#include <QString>
+
+namespace boulix {
+
+class NumberBoardView;
+class ReportView;
+
+/// One evening of a player with the real windows, from an empty folder on. Each chapter is a
+/// function in a file of its own that gets the tour where the chapter before has left it: the
+/// data stay in the folder, the window stays open. A step that does not come out as expected
+/// fails the tour.
+class Tour : public ScreenTest {
+  public:
+    Tour();
+
+    /// The full name of `name` in the folder of this evening.
+    std::string inFolder(const std::string &name) const { return file(name); }
+    /// The player's hand in the dialogs to come.
+    testing_support::Robot &player() { return robot; }
+    /// The main window, while the program runs.
+    MainWindow &window() const { return mainWindowOnScreen(); }
+    /// Starts the program in the folder of this evening.
+    void startProgram();
+    /// Ends it after its last window was closed.
+    void endProgram();
+
+    /// Keeps what is on the screen as the next numbered picture. `name` is French, in letters
+    /// and hyphens.
+    void picture(const char *name);
+
+    /// Clicks the toolbar button `action` of the visible page.
+    void press(const char *action);
+    /// Clicks a row of a list, counted from 1.
+    static void clickRow(ReportView &list, int row);
+    /// Clicks numbers of a board.
+    static void clickNumbers(NumberBoardView &board, std::initializer_list<std::int16_t> numbers);
+    /// A row of a list, its cells parted by blanks.
+    static std::string rowText(const ReportView &list, int row);
+    /// The text of the label `name` in the main window.
+    std::string label(const char *name) const;
+    /// The list `name` of the main window.
+    ReportView &list(const char *name) const;
+
+  private:
+    int pictures_ = 0;
+};
+
+} // namespace boulix
