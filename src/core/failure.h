@@ -30,8 +30,8 @@ enum class Failure {
     printerError = 482,
 };
 
-/// An unexpected failure on its way to the handler that shows it. Nothing between the place
-/// where it starts and that handler catches it.
+/// An unexpected failure on its way to the handler that shows it. As a rule nothing between the
+/// place where it starts and that handler catches it.
 class RuntimeFailure : public std::exception {
   public:
     /// A failure with its usual description in French.
