@@ -62,21 +62,29 @@ StatTable twoColumns(std::int16_t type, ReportColumn first, ReportColumn second,
     return table;
 }
 
+/// The numbers chosen for `type`, in the order of the selector. One that it does not hold is
+/// reported by it and reads as 0.
+std::vector<std::int16_t> chosenNumbers(std::int16_t type, const selector &chooser) {
+    std::vector<std::int16_t> numbers;
+    for (std::int16_t i = 1; i <= statTypes(type).nNumbers; ++i)
+        numbers.push_back(chooser.selectedNbr(i));
+    return numbers;
+}
+
 /// Types 2 to 5: the chosen numbers, the partner, the value; only partners that came out.
 StatTable partners(std::int16_t type, const selector &chooser) {
     StatTable table;
     if (chooser.nSelectedNbr() == 0)
         return table;
-    const std::int16_t chosen = statTypes(type).nNumbers;
-    for (std::int16_t i = 1; i <= chosen + 1; ++i)
-        table.columns.push_back(narrow(zeroPadded(i, 2)));
+    const std::vector<std::int16_t> chosen = chosenNumbers(type, chooser);
+    for (std::size_t i = 1; i <= chosen.size() + 1; ++i)
+        table.columns.push_back(narrow(zeroPadded(static_cast<std::int64_t>(i), 2)));
     table.columns.push_back(wide("Fréquence"));
     table.digits.assign(table.columns.size(), 2);
     for (std::int32_t partner = 1; partner <= lastNumber; ++partner) {
         if (statResult(partner) == 0)
             continue;
-        for (std::int16_t i = 1; i <= chosen; ++i)
-            table.cells.push_back(chooser.selectedNbr(i));
+        table.cells.insert(table.cells.end(), chosen.begin(), chosen.end());
         table.cells.push_back(partner);
         table.cells.push_back(statResult(partner));
     }
@@ -93,10 +101,10 @@ StatTable triplets() {
 }
 
 /// The chosen numbers, plain, joined by commas.
-std::string plainNumbers(std::int16_t count, const selector &chooser) {
+std::string plainNumbers(std::int16_t type, const selector &chooser) {
     std::string text;
-    for (std::int16_t i = 1; i <= count; ++i)
-        text += (i > 1 ? "," : "") + std::to_string(chooser.selectedNbr(i));
+    for (const std::int16_t n : chosenNumbers(type, chooser))
+        text += (text.empty() ? "" : ",") + std::to_string(n);
     return text;
 }
 
@@ -108,16 +116,15 @@ std::string partnerSummary(std::int16_t type, const selector &chooser) {
         return {};
     std::string text = words[static_cast<std::size_t>(type - 2)];
     text += " le plus sorti: ";
-    for (std::int16_t i = 1; i <= statTypes(type).nNumbers; ++i)
-        text += zeroPadded(chooser.selectedNbr(i), 2) + " - ";
+    for (const std::int16_t n : chosenNumbers(type, chooser))
+        text += zeroPadded(n, 2) + " - ";
     return text + zeroPadded(best.at, 2) + " (" + std::to_string(best.value) + " fois)";
 }
 
 std::string absenceSummary(std::int16_t type, const selector &chooser) {
     constexpr std::array<const char *, 3> groups = {"le couple (", "le triplet (",
                                                     "le quadruplet ("};
-    const std::int16_t count = statTypes(type).nNumbers;
-    const std::string numbers = plainNumbers(count, chooser);
+    const std::string numbers = plainNumbers(type, chooser);
     const std::string subject = type == 13
                                     ? "le numéro " + numbers
                                     : groups[static_cast<std::size_t>(type - 14)] + numbers + ")";

@@ -79,7 +79,9 @@ void drawAnalysisPage::showNumbers(std::int32_t draw) {
 
 void drawAnalysisPage::fillList(std::int32_t draw) {
     auto result = std::make_shared<Analysis>();
-    modStats::ComputeDrawAnalysis(draw, result->values, result->labels, result->rows, analyses_,
+    std::vector<std::int32_t> fromOne = {0};
+    fromOne.insert(fromOne.end(), analyses_.begin(), analyses_.end());
+    modStats::ComputeDrawAnalysis(draw, result->values, result->labels, result->rows, fromOne,
                                   static_cast<std::int32_t>(analyses_.size()));
     lvwTirStat.rows(result->rows, [result](std::int64_t row, int column) {
         const auto at = static_cast<std::size_t>(row + 1);
@@ -89,8 +91,8 @@ void drawAnalysisPage::fillList(std::int32_t draw) {
 
 void drawAnalysisPage::clickNumber(std::size_t k) {
     const std::int16_t n = toInt16(numericPrefix(lblNumTir.at(k).caption));
-    colour(k, !board_.isSelected(n));
     board_.toggle(n);
+    colour(k, board_.isSelected(n));
     refresh();
 }
 

@@ -207,10 +207,10 @@ void statisticsPage::clickList() {
     };
     for (std::int16_t i = 1; i <= grdStatNbrSelector.selectedCount(); ++i)
         add(grdStatNbrSelector.selectedNumber(i));
-    grdStatNbrSelector.clearSelection();
     for (const std::int64_t row : view_->selectedRows())
         for (const std::int16_t n : numbersOfRow(row - 1))
             add(n);
+    grdStatNbrSelector.clearSelection();
     for (const std::int16_t n : numbers)
         grdStatNbrSelector.toggle(n);
     ShowSelectedCount();

@@ -13,11 +13,8 @@
 
 namespace boulix::testing_support {
 
-lotoComb combOf(const Seven &numbers) {
-    lotoComb comb;
-    for (int i = 1; i <= lotoComb::size; ++i)
-        comb.num(i, numbers[static_cast<std::size_t>(i - 1)]);
-    comb.compl_(numbers.back());
+lotoComb combWithSums(const SevenNumbers &numbers) {
+    lotoComb comb = lotoCombOf(numbers);
     const int sumtot = std::accumulate(numbers.begin(), numbers.end(), 0);
     comb.sum(static_cast<std::int16_t>(sumtot - numbers.back()));
     comb.sumtot(static_cast<std::int16_t>(sumtot));
@@ -30,10 +27,10 @@ StatsTest::StatsTest() {
     modStats::reset();
 }
 
-void StatsTest::addDraws(const std::vector<Seven> &draws) {
+void StatsTest::addDraws(const std::vector<SevenNumbers> &draws) {
     const Date firstDay = dateOf({2001, 1, 1});
-    for (const Seven &numbers : draws)
-        gDbCombs->Add(firstDay + gDbCombs->Count(), 1, combOf(numbers), false, "");
+    for (const SevenNumbers &numbers : draws)
+        gDbCombs->Add(firstDay + gDbCombs->Count(), 1, combWithSums(numbers), false, "");
 }
 
 void StatsTest::compute(int type, int withCompl, std::int32_t first, std::int32_t last,

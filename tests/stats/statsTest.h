@@ -5,6 +5,7 @@
 #include "core/selector.h"
 #include "draws/lotoComb.h"
 #include "support/boulixTest.h"
+#include "support/lottery.h"
 
 #include <cstdint>
 #include <map>
@@ -12,11 +13,8 @@
 
 namespace boulix::testing_support {
 
-/// A draw's seven numbers, the complementary one last.
-using Seven = std::vector<std::int16_t>;
-
 /// The record of seven numbers with its true sums.
-lotoComb combOf(const Seven &numbers);
+lotoComb combWithSums(const SevenNumbers &numbers);
 
 /// A base that the test fills, the tables of the statistics made, no result yet.
 class StatsTest : public BoulixTest {
@@ -24,7 +22,7 @@ class StatsTest : public BoulixTest {
     StatsTest();
 
     /// Appends draws, one a day from 1 January 2001 on, all of them the first of their day.
-    void addDraws(const std::vector<Seven> &draws);
+    void addDraws(const std::vector<SevenNumbers> &draws);
     /// Computes a statistic; `chosen` are the numbers that the user marks in the dialog.
     void compute(int type, int withCompl, std::int32_t first, std::int32_t last,
                  const std::vector<std::int16_t> &chosen = {});
@@ -46,6 +44,5 @@ int listedTriplets();
 } // namespace boulix::testing_support
 
 namespace boulix {
-using testing_support::Seven;
 using testing_support::StatsTest;
 } // namespace boulix

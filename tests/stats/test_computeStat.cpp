@@ -52,7 +52,8 @@ TEST_F(StatsTest, AStretchThatEndsBeforeItBeginsGivesZeros) {
     addDraws({{1, 2, 3, 4, 5, 6, 7}, {11, 12, 13, 14, 15, 16, 17}});
     for (const int type : {1, 2, 6, 7, 9}) {
         statResult.fill(49, 99);
-        compute(type, 1, 2, 1, type == 2 ? std::vector<std::int16_t>{1} : Seven{});
+        compute(type, 1, 2, 1,
+                type == 2 ? std::vector<std::int16_t>{1} : std::vector<std::int16_t>{});
         EXPECT_EQ(results(), Results()) << "type " << type;
     }
     statResult.fill(49, 99);
@@ -146,8 +147,8 @@ TEST_F(StatsTest, ANumberOfTheSixDoesNotRunIntoTheComplementary) {
 }
 
 TEST_F(StatsTest, ARunThatBreaksStartsAgainAtOne) {
-    const Seven with = {1, 2, 3, 4, 5, 6, 7};
-    const Seven without = {11, 12, 13, 14, 15, 16, 17};
+    const SevenNumbers with = {1, 2, 3, 4, 5, 6, 7};
+    const SevenNumbers without = {11, 12, 13, 14, 15, 16, 17};
     addDraws({with, with, with, without, with, with});
     computeAll(10, 0);
     EXPECT_EQ(statResult(1), 3);
@@ -258,8 +259,8 @@ TEST_F(StatsTest, ANumberInEveryDrawHasNoPeriodOfAbsence) {
 }
 
 TEST_F(StatsTest, PeriodsStandInTimeOrderAndTheOpenOneIsThere) {
-    const Seven with = {1, 2, 3, 4, 5, 6, 7};
-    const Seven without = {11, 12, 13, 14, 15, 16, 1};
+    const SevenNumbers with = {1, 2, 3, 4, 5, 6, 7};
+    const SevenNumbers without = {11, 12, 13, 14, 15, 16, 1};
     addDraws({without, without, with, with, without, with, without, without, without});
     computeAll(13, 0, {1});
     EXPECT_EQ(periods(), (std::vector<std::int32_t>{2, 1, 3}));
@@ -364,7 +365,8 @@ TEST_F(StatsTest, AnEmptyBaseGivesEmptyResultsAndNoCurrentRuns) {
         for (int type = 1; type <= 17; ++type) {
             const auto numbers = chosen.find(type);
             const auto command = [&] {
-                compute(type, 1, 1, last, numbers == chosen.end() ? Seven{} : numbers->second);
+                compute(type, 1, 1, last,
+                        numbers == chosen.end() ? std::vector<std::int16_t>{} : numbers->second);
             };
             reset();
             EXPECT_EQ(failureNumber(command), type == 8 ? subscriptOutOfRange : 0)

@@ -101,7 +101,7 @@ TEST_F(DrawAnalysis, TheComplementaryNeverStandsForTheThirdOfATriplet) {
 
 TEST_F(DrawAnalysis, SevenGroupsOfEightNumbersHoldTheSeptaines) {
     struct Case {
-        Seven numbers;
+        SevenNumbers numbers;
         std::int32_t count;
         std::int32_t group;
     };
@@ -119,7 +119,7 @@ TEST_F(DrawAnalysis, SevenGroupsOfEightNumbersHoldTheSeptaines) {
 
 TEST_F(DrawAnalysis, FiveGroupsHoldTheDizaines) {
     struct Case {
-        Seven numbers;
+        SevenNumbers numbers;
         std::int32_t count;
         std::int32_t group;
     };
@@ -173,11 +173,10 @@ TEST_F(DrawAnalysis, ANumberInNoGroupIsAFailure) {
 }
 
 /// A draw of numbers up to `highest` from `lowest` on, with anything that a bad file may hold.
-Seven strangeDraw(std::mt19937 &random, int lowest, int highest) {
-    Seven numbers;
-    for (int i = 0; i < 7; ++i)
-        numbers.push_back(
-            static_cast<std::int16_t>(std::uniform_int_distribution<int>(lowest, highest)(random)));
+SevenNumbers strangeDraw(std::mt19937 &random, int lowest, int highest) {
+    SevenNumbers numbers{};
+    for (std::int16_t &n : numbers)
+        n = static_cast<std::int16_t>(std::uniform_int_distribution<int>(lowest, highest)(random));
     return numbers;
 }
 
@@ -194,7 +193,7 @@ TEST_F(DrawAnalysis, GivesWhatThePlainOneGivesOnAnyNumbers) {
         for (int draw = 1; draw <= 80; ++draw)
             ASSERT_EQ(analyse(draw, {4, 5, 6}), plainAnalysis(draw, {4, 5, 6})) << draw;
         for (int i = 0; i < 500; ++i) {
-            const Seven tuple = strangeDraw(random, range.lowest, range.highest);
+            const SevenNumbers tuple = strangeDraw(random, range.lowest, range.highest);
             ASSERT_EQ(CountDrawsSince(81, tuple[0], tuple[1], tuple[2]),
                       plainDrawsSince(81, tuple[0], tuple[1], tuple[2]));
         }

@@ -103,14 +103,14 @@ class MadeBase : public StatsAgainstPlain, public ::testing::WithParamInterface<
     }
 
   private:
-    Seven sevenOf(const Made &made) {
-        Seven numbers;
-        while (numbers.size() < 7) {
+    SevenNumbers sevenOf(const Made &made) {
+        SevenNumbers numbers{};
+        for (std::size_t k = 0; k < numbers.size();) {
             const auto p = static_cast<std::int16_t>(1 + below(made.highest));
-            const bool known = std::find(numbers.begin(), numbers.end(), p) != numbers.end();
-            const bool last = numbers.size() == 6;
-            if (!known || (last ? made.complAmongSix : made.equalAmongSix))
-                numbers.push_back(p);
+            const auto end = numbers.begin() + static_cast<std::ptrdiff_t>(k);
+            const bool known = std::find(numbers.begin(), end, p) != end;
+            if (!known || (k == 6 ? made.complAmongSix : made.equalAmongSix))
+                numbers[k++] = p;
         }
         return numbers;
     }
