@@ -56,6 +56,7 @@ frmMain::frmMain()
         return markedNumbers(statistics.grdStatNbrSelector);
     };
     games.design.tickedInForecasts = [this] { return forecasts.tickedNumbers(); };
+    games.gameShown = [this] { winnings.showVerification(); };
 }
 
 void frmMain::load() {
@@ -65,6 +66,7 @@ void frmMain::load() {
         logLine("frmMain.Load: Initialisation des onglets");
         frmInitTab();
         logLine("frmMain.Load: Mise à jour des rapports de gain");
+        winnings.showPrizes();
         showDrawCount();
         logLine("frmMain.Load: Fin de chargement de la fenêtre");
     });
@@ -87,6 +89,7 @@ void frmMain::initTabs() {
     elimination.init();
     logLine("frmMain.frmInitTab: Initialisation de l'onglet des jeux");
     games.init();
+    winnings.init();
     logLine("frmMain.frmInitTab: Initialisation de l'onglet des statistiques par tirage");
     analysis.init();
     logLine("frmMain.frmInitTab: Initialisation de l'onglet de pronostiques");
@@ -106,6 +109,7 @@ void frmMain::fillDBList() {
     logLine("frmMain.frmUpdateDBList: -> Remplissage OK");
     const std::int32_t count = gDbCombs->Count();
     logLine("frmMain.frmUpdateDBList: -> " + std::to_string(count) + " combinaisons");
+    winnings.followBase();
     statistics.followBase();
     analysis.followBase();
     logLine("frmMain.frmUpdateDBList: -> Sélection du premier item");

@@ -10,6 +10,7 @@
 #include "workbench/gamePage.h"
 #include "workbench/statisticsPage.h"
 #include "workbench/windowFrame.h"
+#include "workbench/winningsPage.h"
 
 #include <array>
 #include <cstdint>
@@ -48,6 +49,7 @@ class frmMain : public windowFrame {
     drawAnalysisPage analysis;
     eliminatorPage elimination;
     gamePage games;
+    winningsPage winnings;
     forecastPage forecasts;
 
     void view(frmMainView *view) { view_ = view; }

@@ -1,0 +1,214 @@
+// SPDX-FileCopyrightText: The Boulix developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "workbench/winningsPage.h"
+
+#include "core/globals.h"
+#include "core/numbers.h"
+#include "core/platform.h"
+#include "core/reports.h"
+#include "core/text.h"
+#include "draws/dbCombs.h"
+#include "files/modFileSelector.h"
+#include "files/slotFile.h"
+#include "games/frmRandomComb.h"
+#include "games/game.h"
+#include "winnings/gameResult.h"
+#include "winnings/money.h"
+#include "winnings/rapport.h"
+#include "workbench/frmWinDate.h"
+
+namespace boulix {
+
+namespace {
+
+/// Says that a check is under way for as long as it lives; the bar goes back to its start.
+class Busy {
+  public:
+    Busy(bool &busy, progressBar &bar) : busy_(busy), bar_(bar) { busy_ = true; }
+    ~Busy() {
+        busy_ = false;
+        bar_.value = bar_.min;
+    }
+    Busy(const Busy &) = delete;
+    Busy &operator=(const Busy &) = delete;
+
+  private:
+    bool &busy_;
+    progressBar &bar_;
+};
+
+std::size_t place(std::int16_t rank) {
+    return static_cast<std::size_t>(rank - 1);
+}
+
+} // namespace
+
+winningsPage::winningsPage() {
+    updVerifComb.enabled = false;
+    updVerifComb.changed = [this] { showVerification(); };
+}
+
+void winningsPage::init() {
+    for (std::int16_t i = 0; i < ranks; ++i)
+        lblVerWinTitle[static_cast<std::size_t>(i)] = gRapport->label(i);
+}
+
+void winningsPage::showPrizes() {
+    for (std::int16_t i = 0; i < ranks; ++i)
+        txtRapPrice[static_cast<std::size_t>(i)] = plainDecimal(gRapport->Value(i));
+    refresh();
+}
+
+void winningsPage::followBase() {
+    const std::int32_t count = gDbCombs->Count();
+    updVerifComb.enabled = count > 0;
+    if (count == 0)
+        return;
+    updVerifComb.range(1, count);
+    updVerifComb.set(count);
+    showVerification(); // the draw can be another one under the same number
+}
+
+void winningsPage::showVerification() {
+    runCommand([this] { verifyDraw(); });
+    refresh();
+}
+
+void winningsPage::verifyDraw() {
+    const std::int32_t position = updVerifComb.value();
+    if (position < 1 || position > gDbCombs->Count())
+        return;
+    const dbComb &draw = gDbCombs->Item(position);
+    txtVerifComb = std::to_string(position);
+    lblVerifComb = "Tirage n° " + std::to_string(draw.id()) + " du " + shortDate(draw.day());
+    for (int i = 1; i <= lotoComb::size; ++i)
+        lblVerifNum[static_cast<std::size_t>(i - 1)] = std::to_string(draw.comb().num(i));
+    lblVerifCompl = std::to_string(draw.comb().compl_());
+    if (subTab_ == performance)
+        blankResults();
+    if (subTab_ != verification)
+        return;
+    const gameResult result = currentGame->verify(draw.comb());
+    showRanks(result);
+    float total = 0;
+    for (std::int16_t rank = 1; rank <= ranks; ++rank)
+        total = addMoney(total, result.price(rank));
+    lblVerWinTot = plainDecimal(total);
+}
+
+void winningsPage::clickSubTab(int index) {
+    subTab_ = index;
+    if (index == verification || index == performance || index == report)
+        titleFrame_ = static_cast<SubTab>(index);
+    if (index == verification || index == performance)
+        resultFrame_ = static_cast<SubTab>(index);
+    if (index == performance)
+        blankResults();
+    if (index == verification)
+        showVerification();
+    runCommand([this] { takeBoxes(); });
+    refresh();
+}
+
+/// The amounts in the boxes become those of the prize table; behind an empty box the amount stays.
+void winningsPage::takeBoxes() {
+    for (std::int16_t i = 0; i < ranks; ++i) {
+        const std::string &text = txtRapPrice[static_cast<std::size_t>(i)];
+        if (!trimmed(text).empty())
+            gRapport->Value(i, moneyText(text));
+    }
+}
+
+void winningsPage::leaveVerifComb(const std::string &text) {
+    const double position = roundHalfEven(numericPrefix(text));
+    if (updVerifComb.enabled && position >= 1 && position <= updVerifComb.max())
+        updVerifComb.set(toInt32(position));
+    refresh();
+}
+
+void winningsPage::clickPerfo(int index) {
+    if (busy_)
+        return;
+    runCommand([&] {
+        const Busy running(busy_, pgrScanDB);
+        refresh();
+        if (index == checkBase)
+            checkOverBase();
+        else if (index == checkRandomDraws)
+            checkOverRandomDraws();
+    });
+    refresh();
+}
+
+void winningsPage::checkOverBase() {
+    const gameResult result = gDbCombs->VerifyGame(*currentGame, pgrScanDB, wins_, winsCount_);
+    datesKnown_ = true;
+    showRanks(result);
+}
+
+void winningsPage::checkOverRandomDraws() {
+    frmRandomComb dialog;
+    if (view_)
+        view_->runRandomComb(dialog);
+    if (randomDraws.empty())
+        return;
+    const auto count = narrow16(std::ssize(randomDraws));
+    showRanks(currentGame->verifyCombList(randomDraws, count, pgrScanDB));
+    datesKnown_ = false; // random draws have no dates
+}
+
+void winningsPage::clickRapp(int index) {
+    if (busy_)
+        return;
+    runCommand([&] { runRapp(index); });
+    refresh();
+}
+
+void winningsPage::runRapp(int index) {
+    if (index == loadTable) {
+        if (gRapport->load())
+            showPrizes();
+        return;
+    }
+    takeBoxes();
+    if (index == saveDefault)
+        return gRapport->save(platform().applicationFolder() + pathSeparator +
+                              rapport::defaultName);
+    const std::string name = modFileSelector::saveDialog("Fichier de rapport Boulix (*.rap)|*.rap",
+                                                         "Sauvegarde d'un fichier de rapport");
+    if (!name.empty())
+        gRapport->save(name);
+}
+
+void winningsPage::clickPerfDate(int index) {
+    if (busy_ || !datesKnown_)
+        return;
+    runCommand([&] {
+        const auto rank = static_cast<std::size_t>(checkedIndex(index, 0, ranks - 1) + 1);
+        const auto first = wins_[rank].begin() + 1;
+        frmWinDate window({first, first + winsCount_[rank]});
+        if (view_)
+            view_->runWinDate(window);
+    });
+}
+
+void winningsPage::showRanks(const gameResult &result) {
+    for (std::int16_t rank = 1; rank <= ranks; ++rank) {
+        lblVerComb[place(rank)] = std::to_string(result.nWin(rank));
+        lblVerPrice[place(rank)] = plainDecimal(result.price(rank));
+    }
+}
+
+void winningsPage::blankResults() {
+    lblVerComb.fill({});
+    lblVerPrice.fill({});
+    lblVerWinTot.clear();
+}
+
+void winningsPage::refresh() const {
+    if (view_)
+        view_->refresh();
+}
+
+} // namespace boulix
