@@ -11,6 +11,7 @@
 #include "stats/frmGraph.h"
 #include "ui/databaseTab.h"
 #include "ui/drawAnalysisTab.h"
+#include "ui/forecastTab.h"
 #include "ui/frmAbout.h"
 #include "ui/graph/graphParamDialog.h"
 #include "ui/iconLoader.h"
@@ -76,6 +77,8 @@ QWidget *MainWindow::makePage(int index) {
         return new StatisticsTab(main_.statistics, TabStrip);
     case 2:
         return new DrawAnalysisTab(main_.analysis, TabStrip);
+    case 5:
+        return new ForecastTab(main_.forecasts, TabStrip);
     default:
         return new QWidget(TabStrip);
     }

@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 namespace boulix {
 
@@ -20,6 +21,31 @@ ReportListModel::ReportListModel(reportList &list, QObject *parent)
 
 ReportListModel::~ReportListModel() {
     list_.changed = nullptr;
+}
+
+void ReportListModel::setChecks(RowChecks checks) {
+    beginResetModel();
+    checks_ = std::move(checks);
+    endResetModel();
+}
+
+/// The mark stands in front of the first text.
+bool ReportListModel::bearsCheck(const QModelIndex &index) const {
+    return hasChecks() && index.isValid() && index.column() == 0;
+}
+
+Qt::ItemFlags ReportListModel::flags(const QModelIndex &index) const {
+    Qt::ItemFlags flags = QAbstractTableModel::flags(index);
+    flags.setFlag(Qt::ItemIsUserCheckable, bearsCheck(index));
+    return flags;
+}
+
+bool ReportListModel::setData(const QModelIndex &index, const QVariant &value, int role) {
+    if (role != Qt::CheckStateRole || !bearsCheck(index))
+        return false;
+    checks_.check(index.row(), value.toInt() == Qt::Checked);
+    emit dataChanged(index, index, {role});
+    return true;
 }
 
 int ReportListModel::rowCount(const QModelIndex &parent) const {
@@ -37,6 +63,8 @@ QVariant ReportListModel::data(const QModelIndex &index, int role) const {
         return textOf(index.row(), index.column());
     if (role == Qt::TextAlignmentRole)
         return alignmentOf(index.column());
+    if (role == Qt::CheckStateRole && bearsCheck(index))
+        return int(checks_.checked(index.row()) ? Qt::Checked : Qt::Unchecked);
     return {};
 }
 

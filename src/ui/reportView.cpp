@@ -17,6 +17,8 @@
 #include <QStyledItemDelegate>
 
 #include <algorithm>
+#include <limits>
+#include <utility>
 
 namespace boulix {
 
@@ -59,6 +61,10 @@ void ReportView::makeHeader() {
         updateGeometries();
         viewport()->update();
     });
+}
+
+void ReportView::setChecks(RowChecks checks) {
+    model_->setChecks(std::move(checks));
 }
 
 void ReportView::makeCopyActions() {
@@ -111,6 +117,11 @@ std::vector<std::int64_t> ReportView::selectedRows() const {
     return rows;
 }
 
+void ReportView::keepAllColumnsVisible() {
+    allColumnsVisible_ = true;
+    setMinimumWidth(fullWidth());
+}
+
 int ReportView::fullWidth() const {
     int width = verticalScrollBar()->sizeHint().width() + 2 * frameWidth();
     for (int column = 0; column < header_->count(); ++column)
@@ -161,6 +172,11 @@ void ReportView::sizeColumns() {
         header_->resizeSection(
             column, std::max(header, fontMetrics().horizontalAdvance(sample) + 2 * cellMargin));
     }
+    if (model_->hasChecks())
+        header_->resizeSection(0, header_->sectionSize(0) +
+                                      style()->pixelMetric(QStyle::PM_IndicatorWidth));
+    if (allColumnsVisible_)
+        setMinimumWidth(fullWidth());
     const int column = list.sortColumn();
     header_->setSortIndicatorShown(column >= 0);
     header_->setSortIndicator(column, list.descending() ? Qt::DescendingOrder : Qt::AscendingOrder);
@@ -183,7 +199,8 @@ QRect ReportView::visualRect(const QModelIndex &index) const {
     if (!index.isValid())
         return {};
     const qint64 y = (qint64{index.row()} - verticalScrollBar()->value()) * rowHeight_;
-    const qint64 far = qint64{viewport()->height()} + rowHeight_;
+    // A range of selected rows can begin far outside what is visible.
+    constexpr qint64 far = std::numeric_limits<int>::max() / 2;
     return {header_->sectionViewportPosition(index.column()),
             static_cast<int>(std::clamp(y, -far, far)), header_->sectionSize(index.column()),
             rowHeight_};
@@ -260,11 +277,15 @@ int ReportView::verticalOffset() const {
 }
 
 void ReportView::setSelection(const QRect &rect, QItemSelectionModel::SelectionFlags command) {
-    const int first = rowAt(std::max(0, rect.top()));
-    const int under = rowAt(rect.bottom());
-    const int last = under < 0 ? rowCount() - 1 : under;
+    const auto row = [this](int y) {
+        const int down = y >= 0 ? y / rowHeight_ : (y - rowHeight_ + 1) / rowHeight_;
+        return verticalScrollBar()->value() + down;
+    };
+    // A range that the user draws upwards ends above where it began.
+    const int first = std::max(0, row(std::min(rect.top(), rect.bottom())));
+    const int last = std::min(rowCount() - 1, row(std::max(rect.top(), rect.bottom())));
     QItemSelection selection;
-    if (first >= 0)
+    if (first <= last)
         selection.select(model_->index(first, 0), model_->index(last, model_->columnCount() - 1));
     selectionModel()->select(selection, command);
 }
@@ -334,7 +355,18 @@ void ReportView::paintRow(QPainter &painter, int row) {
     }
 }
 
+/// The space bar acts on the row, whichever of its columns was clicked before.
+void ReportView::toggleCheck(const QModelIndex &index) {
+    const QModelIndex mark = index.siblingAtColumn(0);
+    const bool on = mark.data(Qt::CheckStateRole).toInt() == Qt::Checked;
+    model_->setData(mark, int(on ? Qt::Unchecked : Qt::Checked), Qt::CheckStateRole);
+}
+
 void ReportView::keyPressEvent(QKeyEvent *event) {
+    if (event->key() == Qt::Key_Space && model_->hasChecks() && currentIndex().isValid()) {
+        toggleCheck(currentIndex());
+        return;
+    }
     const QModelIndex before = currentIndex();
     QAbstractItemView::keyPressEvent(event);
     tellMoveFrom(before);

@@ -15,6 +15,7 @@ namespace boulix {
 
 class reportList;
 class ReportListModel;
+struct RowChecks;
 
 /// A list in report view: a header, and rows that are selected as a whole. Nothing is kept for a
 /// single row, so that fourteen million rows appear as quickly as ten. The column widths follow
@@ -28,8 +29,12 @@ class ReportView : public QAbstractItemView {
     ~ReportView() override;
 
     QHeaderView *header() const { return header_; }
+    /// Gives every row a check mark, which a click on it or the space bar turns on and off.
+    void setChecks(RowChecks checks);
     /// The selected rows, counted from 1 at the top of the list as it is shown, ascending.
     std::vector<std::int64_t> selectedRows() const;
+    /// Never becomes so narrow that a column is cut off, whatever font and style come.
+    void keepAllColumnsVisible();
     /// The width at which all columns and the scroll bar have their room.
     int fullWidth() const;
     int rowHeight() const { return rowHeight_; }
@@ -68,6 +73,7 @@ class ReportView : public QAbstractItemView {
     void makeCopyActions();
     void sizeColumns();
     void paintRow(QPainter &painter, int row);
+    void toggleCheck(const QModelIndex &index);
     int rowCount() const;
     int rowAt(int y) const;
     int fullyVisibleRows() const;
@@ -80,6 +86,7 @@ class ReportView : public QAbstractItemView {
     QStringList headers_;
     int rowHeight_ = 1;
     int top_ = 0; ///< the first visible row when there were rows last
+    bool allColumnsVisible_ = false;
 };
 
 } // namespace boulix

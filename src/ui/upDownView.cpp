@@ -26,15 +26,27 @@ UpDownView::UpDownView(QWidget *parent) : QWidget(parent) {
     refresh();
 }
 
-QToolButton *UpDownView::makeArrow(Qt::ArrowType arrow, int step) {
+QToolButton *UpDownView::makeArrow(Qt::ArrowType arrow, int by) {
     auto *button = new QToolButton(this);
     const int side = fontMetrics().height();
     button->setArrowType(arrow);
     button->setAutoRepeat(true);
     button->setFocusPolicy(Qt::NoFocus);
     button->setFixedSize(side * 3 / 2, side);
-    connect(button, &QToolButton::clicked, this, [this, step] { setValue(value_ + step); });
+    connect(button, &QToolButton::clicked, this, [this, by] { step(by); });
     return button;
+}
+
+void UpDownView::setEndless() {
+    endless_ = true;
+    refresh();
+}
+
+void UpDownView::step(int by) {
+    if (endless_)
+        emit stepped(by);
+    else
+        setValue(value_ + by);
 }
 
 void UpDownView::setRange(int first, int last) {
@@ -59,17 +71,17 @@ void UpDownView::setBuddy(QLabel *label) {
 }
 
 void UpDownView::refresh() {
-    up_->setEnabled(value_ < last_);
-    down_->setEnabled(value_ > first_);
+    up_->setEnabled(endless_ || value_ < last_);
+    down_->setEnabled(endless_ || value_ > first_);
     if (buddy_)
         buddy_->setNum(value_);
 }
 
 void UpDownView::keyPressEvent(QKeyEvent *event) {
     if (event->key() == Qt::Key_Up)
-        setValue(value_ + 1);
+        step(1);
     else if (event->key() == Qt::Key_Down)
-        setValue(value_ - 1);
+        step(-1);
     else
         QWidget::keyPressEvent(event);
 }

@@ -23,21 +23,27 @@ class UpDownView : public QWidget {
     void setValue(int value);
     /// The label that shows the value from now on.
     void setBuddy(QLabel *label);
+    /// Without limits and without a value of its own: the arrows only tell their steps.
+    void setEndless();
 
   signals:
     void valueChanged(int value);
+    /// A step up (1) or down (-1) of an endless pair.
+    void stepped(int by);
 
   protected:
     void keyPressEvent(QKeyEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
   private:
-    QToolButton *makeArrow(Qt::ArrowType arrow, int step);
+    QToolButton *makeArrow(Qt::ArrowType arrow, int by);
+    void step(int by);
     void refresh();
 
     QToolButton *up_;
     QToolButton *down_;
     QLabel *buddy_ = nullptr;
+    bool endless_ = false;
     int first_ = 0;
     int last_ = 100;
     int value_ = 0;

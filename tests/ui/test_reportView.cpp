@@ -17,6 +17,8 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+
 namespace boulix {
 namespace {
 
@@ -172,6 +174,67 @@ TEST_F(ReportViewTest, SeveralSelectedRowsAreCopiedFromTopToBottom) {
     EXPECT_EQ(view->selectedRows(), (Rows{2, 4}));
     view->findChild<QAction *>(QStringLiteral("copySelected"))->trigger();
     EXPECT_EQ(copied(), "7\t0\n1\t4\n");
+}
+
+TEST_F(ReportViewTest, ARangeReachesBeyondWhatIsVisibleDownAndUp) {
+    list.rows(1000, cell);
+    show().setSelectionMode(QAbstractItemView::ExtendedSelection);
+    clickRow(2);
+    QTest::keyClick(view.get(), Qt::Key_End, Qt::ShiftModifier);
+    EXPECT_EQ(view->selectedRows().size(), 998U);
+    EXPECT_EQ(view->selectedRows().front(), 3);
+    QTest::keyClick(view.get(), Qt::Key_Up);
+    EXPECT_EQ(view->selectedRows(), Rows{999});
+    QTest::keyClick(view.get(), Qt::Key_Home, Qt::ShiftModifier);
+    EXPECT_EQ(view->selectedRows().size(), 999U);
+}
+
+/// The list of this test with check marks, which `marked` holds by row.
+class CheckedRows : public ReportViewTest {
+  protected:
+    CheckedRows() {
+        show().setChecks({[this](std::int64_t row) { return marked[place(row)]; },
+                          [this](std::int64_t row, bool on) { marked[place(row)] = on; }});
+    }
+    static std::size_t place(std::int64_t row) { return static_cast<std::size_t>(row); }
+    void clickMark(int row) {
+        const QRect cell = view->visualRect(view->model()->index(row, 0));
+        QTest::mouseClick(view->viewport(), Qt::LeftButton, {},
+                          QPoint(cell.left() + 14, cell.center().y()));
+    }
+    std::array<bool, 10> marked{};
+};
+
+TEST_F(CheckedRows, AClickOnTheMarkTurnsItOnAndOff) {
+    clickMark(3);
+    EXPECT_EQ(marked, (std::array<bool, 10>{false, false, false, true}));
+    clickMark(3);
+    EXPECT_EQ(marked, (std::array<bool, 10>{}));
+}
+
+TEST_F(CheckedRows, AClickBesideTheMarkSelectsTheRowOnly) {
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, {},
+                      view->visualRect(view->model()->index(3, 1)).center());
+    EXPECT_EQ(view->selectedRows(), Rows{4});
+    EXPECT_EQ(marked, (std::array<bool, 10>{}));
+}
+
+TEST_F(CheckedRows, TheSpaceBarTurnsTheMarkOfTheCurrentRowWhereverItWasClicked) {
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, {},
+                      view->visualRect(view->model()->index(2, 1)).center());
+    QTest::keyClick(view.get(), Qt::Key_Space);
+    EXPECT_TRUE(marked[2]);
+    EXPECT_EQ(view->selectedRows(), Rows{3});
+    QTest::keyClick(view.get(), Qt::Key_Space);
+    EXPECT_FALSE(marked[2]);
+}
+
+TEST_F(CheckedRows, TheModelKeepsTheRulesOfQtAndMarksTheFirstColumnOnly) {
+    const QAbstractItemModelTester tester(view->model(),
+                                          QAbstractItemModelTester::FailureReportingMode::Fatal);
+    list.sortByText(0);
+    EXPECT_TRUE(view->model()->index(0, 0).data(Qt::CheckStateRole).isValid());
+    EXPECT_FALSE(view->model()->index(0, 1).data(Qt::CheckStateRole).isValid());
 }
 
 TEST_F(ReportViewTest, TheWholeListIsCopiedWithItsHeader) {

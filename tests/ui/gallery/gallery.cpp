@@ -161,6 +161,7 @@ int main(int argc, char **argv) {
     keepIdentity();
     keepList();
     keepMainWindow();
+    keepForecasts();
     keepPrintWindows();
     keepGraph();
     resetGlobals();

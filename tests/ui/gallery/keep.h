@@ -9,5 +9,6 @@ class QWidget;
 /// Shows `window` for a moment and keeps its picture as `name`.png.
 void keep(QWidget &window, const QString &name);
 
+void keepForecasts();
 void keepGraph();
 void keepPrintWindows();
