@@ -57,7 +57,8 @@ class Paper : public Canvas {
 
     virtual void newPage() = 0;
     /// Sends the document to the printer; nothing may be drawn any more. A printer that does not
-    /// take it fails with `Failure::printerError`, here or at any earlier step.
+    /// take it fails with `Failure::printerError`, a disk that has no room for it with
+    /// `Failure::diskFull`, here or at any earlier step.
     virtual void endDocument() = 0;
 };
 

@@ -50,13 +50,20 @@ double PdfPaper::sheetHeight() const {
 
 void PdfPaper::newPage() {
     if (!writer_.newPage())
-        fail(Failure::printerError);
+        failAsFile();
 }
 
 void PdfPaper::endDocument() {
     if (!painter_.end() || !file_.flush() || file_.error() != QFileDevice::NoError)
-        fail(Failure::diskFull, fromQt(file_.errorString()));
+        failAsFile();
     deliver_(file_.fileName());
+}
+
+/// The document could not be written on: most likely its file could not.
+void PdfPaper::failAsFile() const {
+    if (file_.error() != QFileDevice::NoError)
+        fail(Failure::diskFull, fromQt(file_.errorString()));
+    fail(Failure::printerError);
 }
 
 } // namespace boulix

@@ -34,6 +34,8 @@ class PdfPaper : public PaintedCanvas<Paper> {
     void endDocument() override;
 
   private:
+    [[noreturn]] void failAsFile() const;
+
     // In the order in which they depend on one another: the painter is the first to go.
     QTemporaryFile file_;
     QPdfWriter writer_;
