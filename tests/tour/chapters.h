@@ -11,4 +11,8 @@ class Tour;
 /// again.
 void baseChapter(Tour &tour);
 
+/// Statistics of each family, their graph, an export, a report on paper, the analysis of the last
+/// draw. Leaves numbers marked on the board of the statistics page.
+void statisticsChapter(Tour &tour);
+
 } // namespace boulix

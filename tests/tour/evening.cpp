@@ -16,6 +16,7 @@ struct Chapter {
 
 constexpr Chapter chapters[] = {
     {"La base de données", baseChapter},
+    {"Les statistiques", statisticsChapter},
 };
 
 TEST_F(Tour, APlayersEveningGoesAsTold) {

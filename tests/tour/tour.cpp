@@ -3,12 +3,15 @@
 
 #include "tour/tour.h"
 
+#include "core/text.h"
 #include "support/locations.h"
 #include "ui/numberBoardView.h"
 #include "ui/reportView.h"
 
 #include <QAction>
+#include <QFile>
 #include <QLabel>
+#include <QProcess>
 #include <QScreen>
 #include <QToolBar>
 #include <QtTest/QTest>
@@ -36,6 +39,8 @@ QRect windowsOnScreen() {
 Tour::Tour() {
     std::filesystem::remove(file("defrapp.rap")); // the evening begins with nothing
     platform.day = dateOf({2003, 11, 19});
+    pdfPrinters_.printed = [this](const QString &fileName) { keepDocument(fileName); };
+    setPrinterSystem(&pdfPrinters_);
 }
 
 void Tour::startProgram() {
@@ -54,13 +59,31 @@ void Tour::picture(const char *name) {
     const QRect area = windowsOnScreen();
     QScreen *screen = QGuiApplication::primaryScreen();
     const QPixmap seen = screen->grabWindow(0, area.x(), area.y(), area.width(), area.height());
-    const QString file = QStringLiteral("%1-%2.png")
-                             .arg(++pictures_, 2, 10, QLatin1Char('0'))
-                             .arg(QString::fromUtf8(name));
-    const auto path = testing_support::picturesFolder() / file.toStdString();
+    const auto path = testing_support::picturesFolder() / (nextName(name) + ".png");
     EXPECT_TRUE(seen.save(QString::fromStdString(path.string()))) << path;
-    std::printf("   %s\n", file.toStdString().c_str());
+}
+
+std::string Tour::nextName(const char *name) {
+    const std::string numbered = zeroPadded(++pictures_, 2) + "-" + name;
+    std::printf("   %s\n", numbered.c_str());
     std::fflush(stdout);
+    return numbered;
+}
+
+void Tour::keepDocument(const QString &fileName) {
+    if (!documentName_) {
+        ADD_FAILURE() << "a document was printed that nobody waited for";
+        return;
+    }
+    const auto path = testing_support::picturesFolder() / nextName(documentName_);
+    documentName_ = nullptr;
+    const QString kept = QString::fromStdString(path.string());
+    EXPECT_TRUE(QFile::copy(fileName, kept + QStringLiteral(".pdf")));
+    EXPECT_EQ(
+        QProcess::execute(QStringLiteral("pdftoppm"),
+                          {QStringLiteral("-png"), QStringLiteral("-r"), QStringLiteral("80"),
+                           QStringLiteral("-singlefile"), kept + QStringLiteral(".pdf"), kept}),
+        0);
 }
 
 void Tour::press(const char *action) {

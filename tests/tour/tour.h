@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "tour/pdfPrinters.h"
 #include "ui/support/screenTest.h"
 
 #include <QString>
@@ -35,6 +36,10 @@ class Tour : public ScreenTest {
     /// and hyphens.
     void picture(const char *name);
 
+    /// Names the next document that will be printed: it is kept among the pictures, as a PDF and
+    /// as a picture of its first page.
+    void nextDocument(const char *name) { documentName_ = name; }
+
     /// Clicks the toolbar button `action` of the visible page.
     void press(const char *action);
     /// Clicks a row of a list, counted from 1.
@@ -49,6 +54,11 @@ class Tour : public ScreenTest {
     ReportView &list(const char *name) const;
 
   private:
+    std::string nextName(const char *name);
+    void keepDocument(const QString &fileName);
+
+    PdfPrinters pdfPrinters_;
+    const char *documentName_ = nullptr;
     int pictures_ = 0;
 };
 
