@@ -16,6 +16,8 @@
 #include <QListWidget>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace boulix {
 
 DrawAnalysisTab::DrawAnalysisTab(drawAnalysisPage &page, QWidget *parent)
@@ -98,9 +100,15 @@ void DrawAnalysisTab::fillAnalyses() {
     lstStatTirType->setAccessibleName(QStringLiteral("Analyses"));
     lstStatTirType->setSelectionMode(QAbstractItemView::MultiSelection);
     lstStatTirType->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    for (const char *name : modStats::analysisNames)
+    const QSize roomy(0, fontMetrics().height() * 8 / 5);
+    for (const char *name : modStats::analysisNames) {
         lstStatTirType->addItem(QString::fromUtf8(name));
-    lstStatTirType->setFixedWidth(lstStatTirType->sizeHintForColumn(0) + 4 * theme::gap);
+        lstStatTirType->item(lstStatTirType->count() - 1)->setSizeHint(roomy);
+    }
+    int widest = 0;
+    for (const char *name : modStats::analysisNames)
+        widest = std::max(widest, fontMetrics().horizontalAdvance(QString::fromUtf8(name)));
+    lstStatTirType->setFixedWidth(widest + 3 * theme::gap);
     connect(lstStatTirType, &QListWidget::itemSelectionChanged, this,
             &DrawAnalysisTab::tellAnalyses);
 }

@@ -24,6 +24,7 @@ UpDownField::UpDownField(upDown &control, const QString &boxName, const QString 
     arrows_->setObjectName(arrowsName);
     arrows_->setFocusPolicy(Qt::NoFocus); // the arrow keys step in the box itself
     setFocusProxy(box_);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     connect(box_, &QLineEdit::editingFinished, this, [this] { emit boxLeft(box_->text()); });
     connect(arrows_, &UpDownView::valueChanged, this,
             [this](int value) { runCommand([&] { control_.set(value); }); });

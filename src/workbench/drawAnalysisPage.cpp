@@ -39,8 +39,8 @@ drawAnalysisPage::drawAnalysisPage(NumberBoard &board) : board_(board) {
 
 void drawAnalysisPage::init() {
     lvwTirStat.columns(
-        {{"Type de recherche", "Nombre de tirages écoulés pour le triplé (00,00,00)   ", false},
-         {"Résultat", " 00000 ", true}});
+        {{"Type de recherche", "Somme des numéros de la combinaison sans complémentaire   ", false},
+         {"Résultat", " 0000 ", true}});
 }
 
 void drawAnalysisPage::followBase() {

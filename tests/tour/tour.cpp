@@ -78,6 +78,7 @@ void Tour::keepDocument(const QString &fileName) {
     const auto path = testing_support::picturesFolder() / nextName(documentName_);
     documentName_ = nullptr;
     const QString kept = QString::fromStdString(path.string());
+    QFile::remove(kept + QStringLiteral(".pdf")); // of an evening before
     EXPECT_TRUE(QFile::copy(fileName, kept + QStringLiteral(".pdf")));
     EXPECT_EQ(
         QProcess::execute(QStringLiteral("pdftoppm"),
