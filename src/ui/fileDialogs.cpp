@@ -9,6 +9,8 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QHeaderView>
+#include <QTreeView>
 
 namespace boulix::fileDialogs {
 
@@ -38,7 +40,12 @@ void prepare(QFileDialog &dialog, const FileQuestion &question) {
     dialog.setWindowTitle(toQt(question.title));
     dialog.setDirectory(toQt(question.folder));
     dialog.setNameFilters(nameFilters(question.filter));
-    dialog.resize(760, 480); // where the dialog is Qt's own, its columns need the room
+    // Where the dialog is Qt's own, its columns shall be as wide as what they say.
+    if (auto *files = dialog.findChild<QTreeView *>(QStringLiteral("treeView"))) {
+        dialog.resize(760, 480);
+        files->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+        files->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+    }
 }
 
 QString chosenFile(QFileDialog &dialog) {

@@ -5,6 +5,7 @@
 
 #include "core/reportList.h"
 #include "ui/qtText.h"
+#include "ui/reportCopy.h"
 #include "ui/reportListModel.h"
 
 #include <QAction>
@@ -41,9 +42,8 @@ ReportView::ReportView(reportList &list, QWidget *parent)
     setContextMenuPolicy(Qt::ActionsContextMenu);
     makeHeader();
     makeCopyActions();
+    header_->setModel(model_.get()); // before the view: it learns of new columns first
     setModel(model_.get());
-    header_->setModel(model_.get());
-    sizeColumns();
 }
 
 ReportView::~ReportView() {
@@ -65,6 +65,7 @@ void ReportView::makeHeader() {
 
 void ReportView::setChecks(RowChecks checks) {
     model_->setChecks(std::move(checks));
+    sizeColumns();
 }
 
 void ReportView::makeCopyActions() {
@@ -79,33 +80,14 @@ void ReportView::makeCopyActions() {
     addActions({copy, all});
 }
 
-namespace {
-
-/// The rows `first` to `last` of `model`, one to a line, the columns parted by tabs.
-void appendRows(QString &text, const ReportListModel &model, int first, int last) {
-    for (int row = first; row <= last; ++row)
-        for (int column = 0; column < model.columnCount(); ++column)
-            text += model.index(row, column).data().toString() +
-                    (column + 1 < model.columnCount() ? QLatin1Char('\t') : QLatin1Char('\n'));
-}
-
-} // namespace
-
 void ReportView::copySelected() const {
-    QItemSelection ranges = selectionModel()->selection();
-    std::sort(ranges.begin(), ranges.end(),
-              [](const auto &a, const auto &b) { return a.top() < b.top(); });
-    QString text;
-    for (const QItemSelectionRange &range : ranges)
-        appendRows(text, *model_, range.top(), range.bottom());
+    const QString text = reportCopy::selectedRows(*model_, selectionModel()->selection());
     if (!text.isEmpty())
         QApplication::clipboard()->setText(text);
 }
 
 void ReportView::copyAll() const {
-    QString text = headers_.join(QLatin1Char('\t')) + QLatin1Char('\n');
-    appendRows(text, *model_, 0, rowCount() - 1);
-    QApplication::clipboard()->setText(text);
+    QApplication::clipboard()->setText(reportCopy::allRows(*model_));
 }
 
 std::vector<std::int64_t> ReportView::selectedRows() const {
@@ -125,7 +107,7 @@ void ReportView::keepAllColumnsVisible() {
 int ReportView::fullWidth() const {
     int width = verticalScrollBar()->sizeHint().width() + 2 * frameWidth();
     for (int column = 0; column < header_->count(); ++column)
-        width += header_->sectionSize(column);
+        width += columnWidth(column);
     return width;
 }
 
@@ -146,11 +128,13 @@ void ReportView::reset() {
     QStringList headers;
     for (const ReportColumn &column : model_->list().columns())
         headers << toQt(column.header);
-    if (headers != headers_)
+    if (headers != headers_) {
+        headers_ = headers;
         top_ = 0;
-    headers_ = headers;
+        sizeColumns();
+    }
     QAbstractItemView::reset();
-    sizeColumns();
+    showSorting();
     updateGeometries();
     verticalScrollBar()->setValue(top_);
 }
@@ -163,23 +147,29 @@ void ReportView::changeEvent(QEvent *event) {
 
 void ReportView::sizeColumns() {
     rowHeight_ = fontMetrics().height() + rowPadding;
-    const reportList &list = model_->list();
-    const int columns = std::min(header_->count(), static_cast<int>(list.columns().size()));
-    for (int column = 0; column < columns; ++column) {
-        const ReportColumn &told = list.columns()[static_cast<std::size_t>(column)];
-        const QString sample = toQt(told.sample.empty() ? told.header : told.sample);
-        const int header = header_->sectionSizeHint(column);
-        header_->resizeSection(
-            column, std::max(header, fontMetrics().horizontalAdvance(sample) + 2 * cellMargin));
-    }
-    if (model_->hasChecks())
-        header_->resizeSection(0, header_->sectionSize(0) +
-                                      style()->pixelMetric(QStyle::PM_IndicatorWidth));
+    for (int column = 0; column < header_->count(); ++column)
+        header_->resizeSection(column, columnWidth(column));
     if (allColumnsVisible_)
         setMinimumWidth(fullWidth());
+}
+
+/// The width of a column by its sample, so that header and sample both have their room.
+int ReportView::columnWidth(int column) const {
+    const ReportColumn &told = model_->list().columns()[static_cast<std::size_t>(column)];
+    const QString sample = toQt(told.sample.empty() ? told.header : told.sample);
+    const bool marked = column == 0 && model_->hasChecks();
+    const int mark = marked ? style()->pixelMetric(QStyle::PM_IndicatorWidth) : 0;
+    const int text = fontMetrics().horizontalAdvance(sample) + 2 * cellMargin;
+    return mark + std::max(header_->sectionSizeHint(column), text);
+}
+
+void ReportView::showSorting() {
+    const reportList &list = model_->list();
     const int column = list.sortColumn();
     header_->setSortIndicatorShown(column >= 0);
     header_->setSortIndicator(column, list.descending() ? Qt::DescendingOrder : Qt::AscendingOrder);
+    if (column >= 0) // the arrow must not cover the text
+        header_->resizeSection(column, std::max(header_->sectionSize(column), columnWidth(column)));
 }
 
 int ReportView::rowCount() const {
@@ -360,6 +350,16 @@ void ReportView::toggleCheck(const QModelIndex &index) {
     const QModelIndex mark = index.siblingAtColumn(0);
     const bool on = mark.data(Qt::CheckStateRole).toInt() == Qt::Checked;
     model_->setData(mark, int(on ? Qt::Unchecked : Qt::Checked), Qt::CheckStateRole);
+}
+
+/// What a screen reader says of the row that the keyboard has reached.
+void ReportView::currentChanged(const QModelIndex &current, const QModelIndex &previous) {
+    QAbstractItemView::currentChanged(current, previous);
+    QStringList cells;
+    for (int column = 0; current.isValid() && column < headers_.size(); ++column)
+        cells << headers_[column] + QLatin1Char(' ') +
+                     model_->index(current.row(), column).data().toString();
+    setAccessibleDescription(cells.join(QStringLiteral(", ")));
 }
 
 void ReportView::keyPressEvent(QKeyEvent *event) {

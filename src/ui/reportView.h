@@ -59,6 +59,7 @@ class ReportView : public QAbstractItemView {
     void keyPressEvent(QKeyEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
+    void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
     void scrollContentsBy(int dx, int dy) override;
     void updateGeometries() override;
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
@@ -72,6 +73,8 @@ class ReportView : public QAbstractItemView {
     void makeHeader();
     void makeCopyActions();
     void sizeColumns();
+    int columnWidth(int column) const;
+    void showSorting();
     void paintRow(QPainter &painter, int row);
     void toggleCheck(const QModelIndex &index);
     int rowCount() const;

@@ -252,6 +252,31 @@ TEST_F(ReportViewTest, TheColumnsAreAsWideAsTheirSamples) {
     EXPECT_EQ(view->horizontalScrollBar()->maximum(), 0);
 }
 
+TEST_F(ReportViewTest, NewColumnsAreAsWideAsTheirSamplesToo) {
+    show();
+    const std::string wide(30, 'M');
+    list.columns({{"A", "", false}, {"B", wide, false}, {"C", wide, false}, {"D", "", false}});
+    list.rows(5, cell);
+    const int sample = view->fontMetrics().horizontalAdvance(QString::fromStdString(wide));
+    for (const int column : {1, 2})
+        EXPECT_GE(view->header()->sectionSize(column), sample);
+}
+
+TEST_F(ReportViewTest, AColumnThatTheUserHasWidenedStaysWide) {
+    show();
+    view->header()->resizeSection(0, 333);
+    list.clear();
+    list.rows(5, cell);
+    EXPECT_EQ(view->header()->sectionSize(0), 333);
+}
+
+TEST_F(ReportViewTest, AScreenReaderHearsTheRowThatTheKeyboardHasReached) {
+    show();
+    QTest::keyClick(view.get(), Qt::Key_Down);
+    QTest::keyClick(view.get(), Qt::Key_Down);
+    EXPECT_EQ(view->accessibleDescription().toStdString(), "Date 7, N 0");
+}
+
 TEST_F(ReportViewTest, ASortedListShowsItsKeyInTheHeader) {
     show();
     EXPECT_FALSE(view->header()->isSortIndicatorShown());
