@@ -218,14 +218,16 @@ TEST_F(ComputeTest, CancelWhileTheFirstGridIsMarkedStopsBeforeItsRowIsAdded) {
 }
 
 TEST_F(ComputeTest, ParametersOutsideTheTablesAreARunTimeFailure) {
-    for (const auto &[nFixed, nWin, nSelect] : {std::array{6, 7, 12},
-                                                {-1, 3, 12},
-                                                {0, 0, 12},
-                                                {2, 1, 12},
-                                                {0, 3, 50},
-                                                {0, 7, 12},
-                                                {0, 3, -1}}) {
-        EXPECT_EQ(failureNumber([&] { compute(nFixed, nWin, nSelect); }), 9) << nFixed << nWin;
+    // nFixed, nWin, nSelect
+    for (const std::array<int, 3> &values : {std::array{6, 7, 12},
+                                             {-1, 3, 12},
+                                             {0, 0, 12},
+                                             {2, 1, 12},
+                                             {0, 3, 50},
+                                             {0, 7, 12},
+                                             {0, 3, -1}}) {
+        EXPECT_EQ(failureNumber([&] { compute(values[0], values[1], values[2]); }), 9)
+            << ::testing::PrintToString(values);
         EXPECT_TRUE(desktop.mainWindowEnabled());
     }
 }
