@@ -7,7 +7,7 @@ Times each of the seventeen statistics against the same work written with numpy,
 the other on the same draws, and prints the ratios. BENCH_STATS is the program that the bench
 preset builds. Ends with 1 when numpy is quicker in any type or the geometric mean of the ratios
 is below 10, when the time over 200 000 draws has not grown in proportion, or when the analysis of one
-of them takes 50 milliseconds.
+of them or a full list of triplets takes 50 milliseconds.
 
 The growth is taken from 50 000 draws on: the processor keeps 4858 draws in its nearest cache, and
 after some rounds it knows them by heart.
@@ -80,9 +80,12 @@ def main():
     analysis = bench_time(program, arguments, f"analysis/{LARGE}") / 1e6
     print(f"The first computation after a change of the base takes {index:.1f} microseconds more.")
     print(f"The analysis of one draw of {LARGE}, all rows, takes {analysis:.3f} milliseconds.")
+    listing = bench_time(program, arguments, "list11") / 1e6
+    print(f"A list of 18 404 triplets is computed and filled in {listing:.3f} milliseconds.")
     print(f"Slowest ratio {min(ratios):.1f}, geometric mean {mean:.1f}.")
     print(f"{LARGE // QUARTER} times the draws take at most {max(growths):.1f} times as long.")
-    good = min(ratios) >= 1 and mean >= 10 and max(growths) <= 6 and analysis < 50
+    good = min(ratios) >= 1 and mean >= 10 and max(growths) <= 6
+    good = good and analysis < 50 and listing < 50
     return 0 if good else 1
 
 

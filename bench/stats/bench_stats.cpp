@@ -16,6 +16,7 @@
 #include "stats/drawAnalysis.h"
 #include "stats/modStats.h"
 #include "stats/statStores.h"
+#include "stats/statTable.h"
 #include "stats/statTypes.h"
 
 #include <benchmark/benchmark.h>
@@ -122,7 +123,22 @@ void analysis(benchmark::State &state, std::int32_t count) {
     }
 }
 
+/// A click on the button of type 11 on a base of one draw: nearly all triplets are listed.
+void tripletList(benchmark::State &state) {
+    makeBase(1);
+    std::size_t bytes = 0;
+    for (auto step : state) {
+        modStats::ComputeTriplets(0);
+        const modStats::StatTable table = modStats::statTable(11, selector());
+        const std::string summary = modStats::statSummary(11, selector());
+        bytes = table.cells.capacity() * sizeof(table.cells[0]);
+        benchmark::DoNotOptimize(summary.data());
+    }
+    state.counters["bytes"] = static_cast<double>(bytes);
+}
+
 void registerAll() {
+    benchmark::RegisterBenchmark("list11", tripletList);
     for (const std::int32_t count : {usualCount, quarterCount, largeCount}) {
         const std::string draws = "/" + std::to_string(count);
         for (std::int16_t type = 1; type <= modStats::statTypeCount; ++type)

@@ -13,6 +13,7 @@
 #include "stats/statsTest.h"
 #include "support/files.h"
 #include "support/recordingPrinters.h"
+#include "support/smallDisk.h"
 
 #include <filesystem>
 #include <gtest/gtest.h>
@@ -306,6 +307,20 @@ TEST_F(StatReport, APlaceWhereNoFileCanBeIsAFailure) {
     };
     EXPECT_NE(exportTo(file("nowhere/stat.txt")), 0);
     EXPECT_NE(exportTo(folder()), 0) << "a folder";
+}
+
+TEST_F(StatReport, AFullOrReadOnlyDiskIsAFailureAndTheResultStays) {
+    SmallDisk disk(4096);
+    if (!disk.mounted())
+        GTEST_SKIP() << SmallDisk::whyNot;
+    computeAll(11, 0);
+    const auto write = [&] {
+        modStats::WriteStatsText(disk.file("stat.txt"), 11, 0, 1, 4, chooser);
+    };
+    EXPECT_EQ(failureNumber(write), 61) << "the list of triplets does not fit";
+    disk.makeReadOnly();
+    EXPECT_NE(failureNumber(write), 0);
+    EXPECT_EQ(testing_support::listedTriplets(), 18346);
 }
 
 TEST_F(StatReport, OnPaperTheReportHasTheBannerLongDashesAndTheDay) {
