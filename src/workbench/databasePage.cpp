@@ -99,7 +99,7 @@ bool databasePage::runButton(int index) {
             return false;
         window_.frmUpdateDBList();
         return true;
-    case addDraw:
+    case enterDraw:
         gDbCombs->AddNewDBComb();
         window_.frmUpdateDBList();
         return true;

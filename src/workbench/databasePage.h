@@ -30,7 +30,7 @@ class databaseView {
 class databasePage {
   public:
     /// The buttons of `tbarDB`.
-    enum Button { importDraws = 1, addDraw, modifyDraw, removeDraw, printBase, exportBase };
+    enum Button { importDraws = 1, enterDraw, modifyDraw, removeDraw, printBase, exportBase };
 
     explicit databasePage(windowFrame &window) : window_(window) {}
     databasePage(const databasePage &) = delete;

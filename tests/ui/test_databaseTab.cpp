@@ -166,7 +166,7 @@ TEST_F(DatabaseTabTest, ADrawIsAddedThroughTheTwoDialogs) {
             QTest::keyClick(&control<UpDownView>(dialog, "updTirage"), Qt::Key_Up);
             click(control<QPushButton>(dialog, "cmdOK"));
         });
-    press(databasePage::addDraw);
+    press(databasePage::enterDraw);
     EXPECT_EQ(rowText(4), "19/11/2003 2 6 12 18 24 30 36 42");
     EXPECT_EQ(label("lblDBCombDesc"), "Tirage n° 2 du 19/11/2003");
     EXPECT_EQ(list().selectedRows(), std::vector<std::int64_t>{});

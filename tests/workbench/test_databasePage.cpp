@@ -104,7 +104,7 @@ TEST_F(DatabasePage, AddPutsTheDrawAtTheEndAndShowsItOnTheBoard) {
     startWith({draw(9, 1, sevenA)});
     desktop.answerNumbers(NumberScript().click(sevenB).ok());
     desktop.answerDate({dateOf({2003, 1, 4}), 2});
-    page.clickButton(databasePage::addDraw);
+    page.clickButton(databasePage::enterDraw);
     ASSERT_EQ(page.lvwDBcomb.rowCount(), 2);
     EXPECT_EQ(row(1)[0], "04/01/2003");
     EXPECT_EQ(page.lblDBCombDesc, "Tirage n° 2 du 04/01/2003");

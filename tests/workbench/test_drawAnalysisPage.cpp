@@ -4,12 +4,12 @@
 // The page of the analysis by draw: its labels, their colours and clicks, its list.
 
 #include "workbench/drawAnalysisPage.h"
+#include "workbench/frmMain.h"
 
 #include "core/globals.h"
 #include "draws/dbCombs.h"
 #include "support/boulixTest.h"
 #include "support/lottery.h"
-#include "workbench/frmMain.h"
 
 #include <gtest/gtest.h>
 #include <string>

@@ -3,6 +3,7 @@
 
 // The statistics page: its types, its study range, its six buttons, its list and its board.
 
+#include "workbench/frmMain.h"
 #include "workbench/statisticsPage.h"
 
 #include "core/globals.h"
@@ -15,7 +16,6 @@
 #include "support/files.h"
 #include "support/lottery.h"
 #include "support/recordingPrinters.h"
-#include "workbench/frmMain.h"
 
 #include <gtest/gtest.h>
 #include <string>
