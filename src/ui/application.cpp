@@ -15,7 +15,6 @@ namespace boulix {
 
 Application::Application(int &argc, char **argv) : QApplication(argc, argv) {
     setApplicationName(QStringLiteral("boulix"));
-    setApplicationDisplayName(QString());
     if (QLocale::system().language() == QLocale::C)
         QLocale::setDefault(QLocale(QLocale::French, QLocale::France));
     speakFrench();
