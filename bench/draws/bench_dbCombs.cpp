@@ -5,6 +5,7 @@
 #include "core/text.h"
 #include "support/quietProgram.h"
 #include "support/ratio.h"
+#include "support/watchingDesktop.h"
 
 #include <fstream>
 #include <vector>
@@ -13,32 +14,10 @@ namespace boulix {
 namespace {
 
 using bench_support::measureRatio;
+using bench_support::WatchingDesktop;
 
 constexpr int historyDraws = 4858; // as many as the operator ever published
 constexpr int manyDraws = 200'000;
-
-/// The desktop of these measurements: it notes how long the event queue had to wait at most.
-class WatchingDesktop : public bench_support::QuietDesktop {
-  public:
-    void runEvents() override {
-        const auto now = Clock::now();
-        longestGap_ = std::max(longestGap_, now - lastTurn_);
-        lastTurn_ = now;
-    }
-    void progressLoaded(frmProgress &) override {
-        lastTurn_ = Clock::now();
-        longestGap_ = {};
-    }
-    void progressUnloaded() override { runEvents(); }
-    double longestGapMilliseconds() const {
-        return std::chrono::duration<double, std::milli>(longestGap_).count();
-    }
-
-  private:
-    using Clock = std::chrono::steady_clock;
-    Clock::time_point lastTurn_;
-    Clock::duration longestGap_{};
-};
 
 /// A line in the operator's form with its 30 columns; two draws a day, counted back from 2008.
 std::string historyLine(int i) {

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Boulix developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "literalCompute.h"
+#include "games/literalCompute.h"
 
 #include "core/modMaths.h"
 #include "games/modGame.h"

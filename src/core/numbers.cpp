@@ -82,13 +82,6 @@ std::int32_t toInt32(double value) {
     return narrowRounded<std::int32_t>(value);
 }
 
-std::int16_t narrow16(std::int64_t value) {
-    if (value < std::numeric_limits<std::int16_t>::min() ||
-        value > std::numeric_limits<std::int16_t>::max())
-        fail(Failure::overflow);
-    return static_cast<std::int16_t>(value);
-}
-
 double numericPrefix(std::string_view text) {
     while (!text.empty() && (text.front() == ' ' || text.front() == '\t'))
         text.remove_prefix(1);

@@ -18,7 +18,12 @@ std::int16_t toInt16(double value);
 std::int32_t toInt32(double value);
 
 /// Integer arithmetic keeps 16 bits as the stored width does: a sum beyond it is an overflow.
-std::int16_t narrow16(std::int64_t value);
+inline std::int16_t narrow16(std::int64_t value) {
+    const auto narrow = static_cast<std::int16_t>(value);
+    if (narrow != value)
+        fail(Failure::overflow);
+    return narrow;
+}
 
 /// `index` when it lies in `first` to `last`, otherwise `Failure::subscriptOutOfRange`.
 inline std::int64_t checkedIndex(std::int64_t index, std::int64_t first, std::int64_t last) {

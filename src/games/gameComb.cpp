@@ -8,13 +8,8 @@
 #include "printing/slip.h"
 
 #include <algorithm>
-#include <numeric>
 
 namespace boulix {
-
-std::int16_t gameComb::total() const {
-    return narrow16(std::accumulate(num_.begin(), num_.end(), std::int64_t{0}));
-}
 
 void gameComb::fromString(const std::string &text) {
     sum_ = 0;

@@ -32,7 +32,12 @@ class gameComb {
     std::int16_t sum() const { return sum_; }
     void sum(std::int16_t s) { sum_ = s; }
     /// The sum of the six numbers as they stand; beyond 16 bits it is an overflow.
-    std::int16_t total() const;
+    std::int16_t total() const {
+        std::int64_t sum = 0;
+        for (const std::int16_t n : num_)
+            sum += n;
+        return narrow16(sum);
+    }
 
     /// Fills the row from "01 / 02 / 03 / 04 / 05 / 06" and sums it. The last field always goes
     /// to position 6: with fewer than six fields the positions between keep what they hold, and

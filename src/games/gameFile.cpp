@@ -20,12 +20,41 @@ namespace {
 constexpr auto fileFilter = "Fichier jeu Boulix (*.lst)|*.lst";
 constexpr auto fileType = static_cast<std::int32_t>(FileType::gameSet);
 
-std::string gridRecord(const gameComb &grid) {
-    std::string record;
-    for (const std::int16_t n : grid.numbers())
-        appendInt16(record, n);
-    appendInt16(record, grid.sum());
-    return record;
+constexpr std::size_t gridBytes = 2 * (gameComb::size + 1);
+/// How many slots are written together.
+constexpr std::size_t slotsPerBlock = 512;
+
+void putInt16(std::string &bytes, std::size_t offset, std::int16_t value) {
+    bytes[offset] = static_cast<char>(value & 0xFF);
+    bytes[offset + 1] = static_cast<char>(value >> 8);
+}
+
+void putGrid(std::string &bytes, std::size_t offset, const gameComb &grid) {
+    for (const std::int16_t n : grid.numbers()) {
+        putInt16(bytes, offset, n);
+        offset += 2;
+    }
+    putInt16(bytes, offset, grid.sum());
+}
+
+/// Writes the grids from slot 2 on. The last one is not filled out to its slot.
+void writeGrids(const game &grids, SlotWriter &writer, std::size_t slotLength) {
+    std::string block(slotsPerBlock * slotLength, '\0');
+    std::int64_t blockStart = 2;
+    std::size_t slots = 0;
+    const auto writeBlock = [&] {
+        const std::size_t length = (slots - 1) * slotLength + gridBytes;
+        writer.write(blockStart, std::string_view(block).substr(0, length));
+        blockStart += static_cast<std::int64_t>(slots);
+        slots = 0;
+    };
+    for (const gameComb &grid : grids) {
+        putGrid(block, slots * slotLength, grid);
+        if (++slots == slotsPerBlock)
+            writeBlock();
+    }
+    if (slots > 0)
+        writeBlock();
 }
 
 /// The numbers of the grid in a slot. The slot behind a last one that was filled out does not
@@ -68,9 +97,7 @@ void game::save() const {
     file.head().initialize(fileType);
     SlotWriter writer(file.fullName(), file.head().fileLen());
     writer.write(1, file.head().toRecord());
-    std::int64_t slot = 2;
-    for (const gameComb &grid : *this)
-        writer.write(slot++, gridRecord(grid));
+    writeGrids(*this, writer, static_cast<std::size_t>(file.head().fileLen()));
     writer.close();
 }
 

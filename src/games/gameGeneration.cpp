@@ -26,13 +26,9 @@ Numbers selectedNumbers(const selector &sel) {
     return numbers;
 }
 
-/// A grid with these numbers in ascending order, summed.
-gameComb sortedGrid(const gameComb::Numbers &numbers, bool ascending) {
-    gameComb grid(numbers);
-    if (!ascending)
-        grid.sort();
-    grid.sum(grid.total());
-    return grid;
+/// The sum of six numbers of a selection.
+std::int16_t sumOf(const gameComb::Numbers &six) {
+    return static_cast<std::int16_t>(six[0] + six[1] + six[2] + six[3] + six[4] + six[5]);
 }
 
 /// Calls `use` for every six of the numbers, in lexicographic order of their ranks, until it says
@@ -128,8 +124,10 @@ bool game::ComputeManualGame(const selector &sel) {
     progress->ProgressBar.range(1, modMaths::maxOf(grids + 1, 2));
     grids_.reserve(grids_.size() + static_cast<std::size_t>(grids));
 
-    const bool completed = forEachSix(selection, [&](const gameComb::Numbers &six) {
-        grids_.emplace_back(sortedGrid(six, ascending));
+    const bool completed = forEachSix(selection, [&](gameComb::Numbers six) {
+        if (!ascending)
+            std::sort(six.begin(), six.end());
+        grids_.emplace_back(six, sumOf(six));
         if (Count() % 50 != 0)
             return true;
         desktop().runEvents();
@@ -164,7 +162,9 @@ bool game::ComputeRandomGame(std::int32_t count, const selector &sel) {
     // The first grid of a call is compared with none, all later ones with the whole game.
     std::int32_t have = 0;
     while (have < count) {
-        const gameComb grid = sortedGrid(randomSix(selection), false);
+        gameComb::Numbers six = randomSix(selection);
+        std::sort(six.begin(), six.end());
+        const gameComb grid(six, sumOf(six));
         if (have > 0 && !seen.insert(modMaths::combRank(grid, 6)))
             continue;
         grids_.emplace_back(grid);

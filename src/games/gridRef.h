@@ -20,11 +20,12 @@ class GridStore {
     using Place = std::uint32_t;
     static constexpr Place nowhere = 0xFFFFFFFF;
 
-    /// The place of a new grid with these contents, not referred to yet.
-    Place make(const gameComb &contents) {
+    /// The place of a new grid with these contents, referred to once.
+    Place make(const gameComb::Numbers &numbers, std::int16_t sum) {
         if (current_ == nullptr || current_->used == chunkSize)
             openChunk();
-        current_->grids[current_->used] = contents;
+        current_->grids[current_->used] = gameComb(numbers, sum);
+        ++current_->references;
         return currentNumber_ * chunkSize + current_->used++;
     }
     gameComb &at(Place place) { return chunkOf(place).grids[place % chunkSize]; }
@@ -73,9 +74,9 @@ class GridRef {
     /// Refers to nothing.
     GridRef() = default;
     /// A new grid with these contents.
-    explicit GridRef(const gameComb &contents) : place_(gridStore.make(contents)) {
-        gridStore.refer(place_);
-    }
+    explicit GridRef(const gameComb &contents) : GridRef(contents.numbers(), contents.sum()) {}
+    GridRef(const gameComb::Numbers &numbers, std::int16_t sum)
+        : place_(gridStore.make(numbers, sum)) {}
     GridRef(const GridRef &other) : place_(other.place_) {
         if (place_ != GridStore::nowhere)
             gridStore.refer(place_);

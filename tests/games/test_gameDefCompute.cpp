@@ -4,7 +4,7 @@
 
 #include "core/modMaths.h"
 #include "games/modGame.h"
-#include "literalCompute.h"
+#include "games/literalCompute.h"
 #include "support/boulixTest.h"
 
 #include <set>
