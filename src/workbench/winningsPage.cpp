@@ -144,7 +144,7 @@ void winningsPage::clickPerfo(int index) {
 void winningsPage::checkOverBase() {
     const gameResult result = gDbCombs->VerifyGame(*currentGame, pgrScanDB, wins_, winsCount_);
     datesKnown_ = true;
-    showRanks(result);
+    showCheck(result);
 }
 
 void winningsPage::checkOverRandomDraws() {
@@ -154,7 +154,7 @@ void winningsPage::checkOverRandomDraws() {
     if (randomDraws.empty())
         return;
     const auto count = narrow16(std::ssize(randomDraws));
-    showRanks(currentGame->verifyCombList(randomDraws, count, pgrScanDB));
+    showCheck(currentGame->verifyCombList(randomDraws, count, pgrScanDB));
     datesKnown_ = false; // random draws have no dates
 }
 
@@ -191,6 +191,13 @@ void winningsPage::clickPerfDate(int index) {
         if (view_)
             view_->runWinDate(window);
     });
+}
+
+/// The user may have gone to another sub-tab while the check was under way: the labels are no
+/// longer this one's then.
+void winningsPage::showCheck(const gameResult &result) {
+    if (subTab_ == performance)
+        showRanks(result);
 }
 
 void winningsPage::showRanks(const gameResult &result) {

@@ -80,8 +80,8 @@ class winningsPage {
     /// game wins in it. Nothing on an empty base.
     void showVerification();
 
-    /// The user has gone to the sub-tab `index` of `TabGame`, 0 to 3. The amounts in the boxes
-    /// come into force behind it.
+    /// The user has gone to the sub-tab `index` of `TabGame`, 0 to 3. Then the amounts in the boxes
+    /// come into force: what the first sub-tab shows at once is still reckoned with the old ones.
     void clickSubTab(int index);
     /// The focus leaves `txtVerifComb`: a position that exists is taken.
     void leaveVerifComb(const std::string &text);
@@ -97,6 +97,7 @@ class winningsPage {
     void checkOverRandomDraws();
     void runRapp(int index);
     void takeBoxes();
+    void showCheck(const gameResult &result);
     void showRanks(const gameResult &result);
     void blankResults();
     void refresh() const;

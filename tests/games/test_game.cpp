@@ -9,6 +9,7 @@
 #include "printing/slipTest.h"
 
 #include <random>
+#include <vector>
 
 namespace boulix {
 namespace {
@@ -43,6 +44,29 @@ TEST_F(GameSetTest, TheSameGridCanStandInTwoGames) {
 TEST_F(GameSetTest, GridsStayInTheOrderOfAdding) {
     fill({{9, 10, 11, 12, 13, 14}, {1, 2, 3, 4, 5, 6}});
     EXPECT_EQ(contents(), (Grids{{9, 10, 11, 12, 13, 14}, {1, 2, 3, 4, 5, 6}}));
+}
+
+TEST_F(GameSetTest, AWalkInStretchesMeetsEveryGridInOrder) {
+    game others; // more grids than lie in one piece of memory
+    for (std::int16_t i = 1; i <= 9000; ++i)
+        others.Add(GridRef(gameComb({i, 2, 3, 4, 5, 6})));
+    for (const std::int32_t i : {1, 2, 3, 9000, 4, 4, 5}) // one behind the other, apart, twice
+        grids.Add(others.shared(i));
+    for (std::int32_t i = 10; i <= 9000; ++i)
+        grids.Add(others.shared(i));
+    std::vector<std::int16_t> met;
+    grids.forEachStretch([&met](const gameComb *stretch, std::size_t count) {
+        for (std::size_t i = 0; i < count; ++i)
+            met.push_back(stretch[i].num(1));
+    });
+    std::vector<std::int16_t> expected;
+    for (const gameComb &grid : grids)
+        expected.push_back(grid.num(1));
+    EXPECT_EQ(met, expected);
+}
+
+TEST_F(GameSetTest, AWalkInStretchesOfAnEmptyGameMeetsNothing) {
+    grids.forEachStretch([](const gameComb *, std::size_t) { ADD_FAILURE(); });
 }
 
 TEST_F(GameSetTest, ABadPositionIsARunTimeFailure) {

@@ -109,6 +109,19 @@ TEST_F(VerifyAgainstLiteral, AgreesOnImpossibleDraws) {
     }
 }
 
+TEST_F(VerifyAgainstLiteral, AgreesOnAGameThatSharesGridsWithAnotherInAnyOrder) {
+    randomAmounts();
+    addRandomDraws(40, random);
+    game others; // more than one stretch of memory
+    for (int i = 0; i < 10000; ++i) {
+        const SevenNumbers n = randomDraw(random);
+        others.Add(GridRef(gameComb({n[0], n[1], n[2], n[3], n[4], n[5]})));
+    }
+    for (std::int32_t i = 1; i <= others.Count(); ++i)
+        grids.Add(others.shared(random() % 4 == 0 ? others.Count() + 1 - i : i));
+    expectEqualOverTheBase();
+}
+
 TEST_F(VerifyAgainstLiteral, FailsWhereTheLiteralCheckFails) {
     addRandomGrids(200, random, 8);
     addDraw({1, 2, 3, 4, 5, 6, 7});

@@ -343,6 +343,7 @@ TEST_F(WinningsPage, ChecksTheGameOverTheBase) {
 }
 
 TEST_F(WinningsPage, ShowsTheDatesOfTheWinsOfARank) {
+    page.clickSubTab(winningsPage::performance);
     addGrid({1, 2, 3, 21, 22, 23});
     page.clickPerfo(winningsPage::checkBase);
     int shown = 0;
@@ -383,6 +384,7 @@ TEST_F(WinningsPage, TheListOfDatesHasTenColumns) {
 }
 
 TEST_F(WinningsPage, ADateThatLeftTheBaseIsAFailureAndTheWindowStaysClosed) {
+    page.clickSubTab(winningsPage::performance);
     page.clickPerfo(winningsPage::checkBase);
     gDbCombs->clear();
     onWinDate = [](frmWinDate &) { ADD_FAILURE() << "the window opened"; };
@@ -416,6 +418,7 @@ TEST_F(WinningsPage, ChecksTheGameOverRandomDrawsWhichHaveNoDates) {
 }
 
 TEST_F(WinningsPage, WithoutRandomDrawsTheResultsAndTheDatesStay) {
+    page.clickSubTab(winningsPage::performance);
     page.clickPerfo(winningsPage::checkBase);
     onRandomComb = [](frmRandomComb &dialog) { dialog.clickCancel(); };
     page.clickPerfo(winningsPage::checkRandomDraws);
@@ -424,6 +427,7 @@ TEST_F(WinningsPage, WithoutRandomDrawsTheResultsAndTheDatesStay) {
 }
 
 TEST_F(WinningsPage, RandomDrawsFromTheDialogAreChecked) {
+    page.clickSubTab(winningsPage::performance);
     onRandomComb = [](frmRandomComb &dialog) {
         dialog.txtnComb = "200";
         dialog.clickCompute();
@@ -437,6 +441,7 @@ TEST_F(WinningsPage, RandomDrawsFromTheDialogAreChecked) {
 }
 
 TEST_F(WinningsPage, OnAnEmptyBaseTheCheckGivesZeros) {
+    page.clickSubTab(winningsPage::performance);
     gDbCombs->clear();
     page.clickPerfo(winningsPage::checkBase);
     EXPECT_EQ(page.lblVerComb, zeros());
@@ -462,6 +467,18 @@ TEST_F(WinningsPage, DuringACheckTheBarMovesAndNoSecondCommandStarts) {
     EXPECT_EQ(page.pgrScanDB.value, 1);
 }
 
+TEST_F(WinningsPage, ACheckLeftForAnotherSubTabDoesNotWriteIntoItsLabels) {
+    std::mt19937 random(1);
+    addRandomDraws(20, random);
+    page.followBase();
+    page.updVerifComb.set(2);
+    page.clickSubTab(winningsPage::performance);
+    desktop.onEvents = [&] { page.clickSubTab(winningsPage::verification); };
+    page.clickPerfo(winningsPage::checkBase);
+    EXPECT_EQ(page.lblVerComb, zeros()); // of the second draw, not of the base
+    EXPECT_TRUE(page.cmdPerfDateEnabled());
+}
+
 TEST_F(WinningsPage, TheScreenIsToldWhenACheckBeginsAndWhenItHasEnded) {
     std::vector<bool> busy;
     onRefresh = [&] { busy.push_back(page.busy()); };
@@ -470,6 +487,7 @@ TEST_F(WinningsPage, TheScreenIsToldWhenACheckBeginsAndWhenItHasEnded) {
 }
 
 TEST_F(WinningsPage, AFailedCheckLeavesTheResultsAndTheBarAtItsStart) {
+    page.clickSubTab(winningsPage::performance);
     page.clickPerfo(winningsPage::checkBase);
     addDraw({1, 2, 3, 11, 12, 13, 1}); // a draw that cannot be: six matches with its complementary
     page.clickPerfo(winningsPage::checkBase);
