@@ -7,6 +7,7 @@
 #include "stats/modStats.h"
 #include "stats/statStores.h"
 #include "stats/statTypes.h"
+#include "support/locations.h"
 
 #include <algorithm>
 #include <numeric>
@@ -31,6 +32,17 @@ void StatsTest::addDraws(const std::vector<SevenNumbers> &draws) {
     const Date firstDay = dateOf({2001, 1, 1});
     for (const SevenNumbers &numbers : draws)
         gDbCombs->Add(firstDay + gDbCombs->Count(), 1, combWithSums(numbers), false, "");
+}
+
+bool StatsTest::importHistory() {
+    const auto history = operatorHistory();
+    if (!history)
+        return false;
+    gDbCombs->dbFile().fullName(file("tirages.dbl"));
+    desktop.answerOpen(history->string());
+    EXPECT_TRUE(gDbCombs->ImportFdjFile());
+    EXPECT_EQ(gDbCombs->Count(), 4858);
+    return true;
 }
 
 void StatsTest::compute(int type, int withCompl, std::int32_t first, std::int32_t last,

@@ -23,6 +23,11 @@ class StatsTest : public BoulixTest {
 
     /// Appends draws, one a day from 1 January 2001 on, all of them the first of their day.
     void addDraws(const std::vector<SevenNumbers> &draws);
+    /// Imports the operator's history into the base; false where it is not there, and the test
+    /// then skips with `noHistory`.
+    bool importHistory();
+    static constexpr const char *noHistory =
+        "the operator's history is not there; name it in BOULIX_HISTORY";
     /// Computes a statistic; `chosen` are the numbers that the user marks in the dialog.
     void compute(int type, int withCompl, std::int32_t first, std::int32_t last,
                  const std::vector<std::int16_t> &chosen = {});

@@ -6,7 +6,6 @@
 #include "draws/dbCombs.h"
 #include "stats/plainStats.h"
 #include "stats/statsTest.h"
-#include "support/locations.h"
 
 #include <gtest/gtest.h>
 #include <random>
@@ -201,12 +200,8 @@ TEST_F(DrawAnalysis, GivesWhatThePlainOneGivesOnAnyNumbers) {
 }
 
 TEST_F(DrawAnalysis, GivesWhatThePlainOneGivesOnTheRealHistory) {
-    const auto history = testing_support::operatorHistory();
-    if (!history)
-        GTEST_SKIP() << "the operator's history is not there; name it in BOULIX_HISTORY";
-    gDbCombs->dbFile().fullName(file("tirages.dbl"));
-    desktop.answerOpen(history->string());
-    ASSERT_TRUE(gDbCombs->ImportFdjFile());
+    if (!importHistory())
+        GTEST_SKIP() << noHistory;
     for (const int draw : {1, 2, 10, 1500, 3000, 4700, 4857, 4858})
         ASSERT_EQ(analyse(draw, allAnalyses), plainAnalysis(draw, allAnalyses)) << draw;
 }

@@ -8,7 +8,6 @@
 #include "stats/statStores.h"
 #include "stats/statTypes.h"
 #include "stats/statsTest.h"
-#include "support/locations.h"
 
 #include <gtest/gtest.h>
 #include <random>
@@ -142,13 +141,8 @@ INSTANTIATE_TEST_SUITE_P(Bases, MadeBase,
                          [](const auto &tested) { return tested.param.name; });
 
 TEST_F(StatsAgainstPlain, TheRealHistoryGivesWhatThePlainStatisticsGive) {
-    const auto history = testing_support::operatorHistory();
-    if (!history)
-        GTEST_SKIP() << "the operator's history is not there; name it in BOULIX_HISTORY";
-    gDbCombs->dbFile().fullName(file("tirages.dbl"));
-    desktop.answerOpen(history->string());
-    ASSERT_TRUE(gDbCombs->ImportFdjFile());
-    ASSERT_EQ(gDbCombs->Count(), 4858);
+    if (!importHistory())
+        GTEST_SKIP() << noHistory;
     for (const int withCompl : {0, 1}) {
         compareAll(withCompl, 1, 4858);
         compareAll(withCompl, 1, 1000);
