@@ -85,6 +85,8 @@ void ForecastTab::addRule(QGridLayout &grid, int row, std::size_t rule) {
     QFont bold = title->font();
     bold.setBold(true);
     title->setFont(bold);
+    title->setMinimumHeight(2 * QFontMetrics(bold).lineSpacing()); // the longest takes two lines
+    title->setAlignment(Qt::AlignLeft | Qt::AlignBottom);
     lblPronoTitle[rule] = title;
     n_[rule] = makeParameter(QStringLiteral("N"), QStringLiteral("N"),
                              QStringLiteral("Nombre N de la règle"), rule, page_.txtN[rule]);

@@ -11,8 +11,10 @@
 #include "stats/frmGraph.h"
 #include "ui/databaseTab.h"
 #include "ui/drawAnalysisTab.h"
+#include "ui/eliminatorTab.h"
 #include "ui/forecastTab.h"
 #include "ui/frmAbout.h"
+#include "ui/gameTab.h"
 #include "ui/graph/graphParamDialog.h"
 #include "ui/iconLoader.h"
 #include "ui/printing/gridParamDialog.h"
@@ -77,6 +79,10 @@ QWidget *MainWindow::makePage(int index) {
         return new StatisticsTab(main_.statistics, TabStrip);
     case 2:
         return new DrawAnalysisTab(main_.analysis, TabStrip);
+    case 3:
+        return new EliminatorTab(main_.elimination, TabStrip);
+    case 4:
+        return new GameTab(main_.games, main_.winnings, TabStrip);
     case 5:
         return new ForecastTab(main_.forecasts, TabStrip);
     default:
@@ -88,6 +94,8 @@ void MainWindow::makePages() {
     TabStrip->setObjectName(QStringLiteral("TabStrip"));
     TabStrip->setDocumentMode(true);
     TabStrip->setIconSize({18, 18});
+    TabStrip->setUsesScrollButtons(false); // no tab is scrolled away or cut short
+    TabStrip->setElideMode(Qt::ElideNone);
     const auto looks = tabLooks();
     for (std::size_t i = 0; i < looks.size(); ++i) {
         QWidget *page = makePage(static_cast<int>(i));
@@ -97,7 +105,6 @@ void MainWindow::makePages() {
     }
     connect(TabStrip, &QTabWidget::currentChanged, this,
             [this](int index) { runCommand([&] { main_.clickTab(index + 1); }); });
-    TabStrip->setMinimumWidth(TabStrip->tabBar()->sizeHint().width()); // no tab is scrolled away
 }
 
 QAction *MainWindow::addEntry(QMenu &menu, const QString &name, const QString &caption,

@@ -6,6 +6,9 @@
 #include "ui/iconLoader.h"
 #include "ui/theme.h"
 
+#include <QPainter>
+#include <QStyleOption>
+
 namespace boulix {
 
 ProgramStyle::ProgramStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
@@ -30,6 +33,20 @@ int ProgramStyle::styleHint(StyleHint hint, const QStyleOption *option, const QW
     if (hint == SH_DialogButtonBox_ButtonsHaveIcons)
         return 0;
     return QProxyStyle::styleHint(hint, option, widget, returned);
+}
+
+void ProgramStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option,
+                                 QPainter *painter, const QWidget *widget) const {
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+    if (element != PE_IndicatorCheckBox || !theme::isDark(option->palette))
+        return;
+    // The outline of "Fusion" is darker than the ground.
+    painter->save();
+    painter->setPen(theme::blend(option->palette.color(QPalette::Base),
+                                 option->palette.color(QPalette::Text), 0.45));
+    painter->setBrush(Qt::NoBrush);
+    painter->drawRect(QRectF(option->rect).adjusted(0.5, 0.5, -0.5, -0.5));
+    painter->restore();
 }
 
 } // namespace boulix

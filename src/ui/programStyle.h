@@ -7,7 +7,8 @@
 
 namespace boulix {
 
-/// Qt's own "Fusion" with the program's icons in message boxes and none on dialog buttons.
+/// Qt's own "Fusion" with the program's icons in message boxes and none on dialog buttons,
+/// and with check boxes that can be seen on a dark ground.
 class ProgramStyle : public QProxyStyle {
     Q_OBJECT
 
@@ -18,6 +19,8 @@ class ProgramStyle : public QProxyStyle {
                        const QWidget *widget) const override;
     int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
                   QStyleHintReturn *returned) const override;
+    void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
+                       const QWidget *widget) const override;
 };
 
 } // namespace boulix

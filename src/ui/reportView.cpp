@@ -106,9 +106,11 @@ void ReportView::keepAllColumnsVisible() {
 
 int ReportView::fullWidth() const {
     int width = verticalScrollBar()->sizeHint().width() + 2 * frameWidth();
-    for (int column = 0; column < header_->count(); ++column)
-        width += columnWidth(column);
-    return width;
+    const int last = header_->count() - 1;
+    for (int column = 0; column < last; ++column)
+        width += std::max(header_->sectionSize(column), columnWidth(column));
+    // The last column is stretched: what it has is no measure of what it needs.
+    return last < 0 ? width : width + columnWidth(last);
 }
 
 QSize ReportView::sizeHint() const {
@@ -170,6 +172,8 @@ void ReportView::showSorting() {
     header_->setSortIndicator(column, list.descending() ? Qt::DescendingOrder : Qt::AscendingOrder);
     if (column >= 0) // the arrow must not cover the text
         header_->resizeSection(column, std::max(header_->sectionSize(column), columnWidth(column)));
+    if (allColumnsVisible_)
+        setMinimumWidth(fullWidth());
 }
 
 int ReportView::rowCount() const {

@@ -28,7 +28,7 @@ struct ControlText {
 class gameDesignView : public systemMakerView {
   public:
     /// Shows tabs, boxes, labels and the drop-down list again.
-    virtual void refresh() = 0;
+    void refresh() override = 0;
 };
 
 /// The side of the game page on which grids are made: a method is picked, numbers are selected,

@@ -8,9 +8,9 @@
 namespace boulix::gridList {
 
 std::vector<ReportColumn> columns() {
-    std::vector<ReportColumn> columns = {{"N°", " 00000000) ", false}};
+    std::vector<ReportColumn> columns = {{"N°", "00000000)", false}};
     for (const char *header : {"1", "2", "3", "4", "5", "6"})
-        columns.push_back({header, " 000 ", true});
+        columns.push_back({header, "000", true});
     return columns;
 }
 

@@ -34,15 +34,18 @@ systemMaker::systemMaker() {
         nFixed.text = std::to_string(value);
         if (value >= nWin.upDownControl.value())
             nWin.upDownControl.set(value + 1);
+        refresh();
     };
     nWin.upDownControl.changed = [this] {
         const std::int32_t value = nWin.upDownControl.value();
         nWin.text = std::to_string(value);
         if (nFixed.upDownControl.value() >= value)
             nFixed.upDownControl.set(value - 1);
+        refresh();
     };
     nChoosen.upDownControl.changed = [this] {
         nChoosen.text = std::to_string(nChoosen.upDownControl.value());
+        refresh();
     };
 }
 
@@ -103,6 +106,11 @@ void systemMaker::add() {
         return;
     list.back().save(nReduced, nFixedGame);
     listsChanged();
+}
+
+void systemMaker::refresh() const {
+    if (view_)
+        view_->refresh();
 }
 
 void systemMaker::manage() {

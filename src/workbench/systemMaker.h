@@ -21,6 +21,8 @@ class systemMakerView {
   public:
     virtual ~systemMakerView() = default;
 
+    /// Shows boxes and labels again.
+    virtual void refresh() = 0;
     /// Shows the list of the user's systems modally until it is hidden.
     virtual void runGameList(frmGameList &window) = 0;
 };
@@ -69,6 +71,7 @@ class systemMaker {
     void manage();
     void compute();
     void showCost();
+    void refresh() const;
 
     systemMakerView *view_ = nullptr;
     std::shared_ptr<gameDef> newGameDef_; // the system last computed

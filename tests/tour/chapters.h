@@ -15,4 +15,10 @@ void baseChapter(Tour &tour);
 /// draw. Leaves numbers marked on the board of the statistics page.
 void statisticsChapter(Tour &tour);
 
+/// Grids by every method, a system of one's own, elimination, the game on file and on slips.
+void gamesChapter(Tour &tour);
+
+/// Prizes, what the game won and when, a forecast, its test, and the game that comes of it.
+void winningsChapter(Tour &tour);
+
 } // namespace boulix

@@ -17,6 +17,8 @@ struct Chapter {
 constexpr Chapter chapters[] = {
     {"La base de données", baseChapter},
     {"Les statistiques", statisticsChapter},
+    {"Les jeux", gamesChapter},
+    {"Les gains et les pronostiques", winningsChapter},
 };
 
 TEST_F(Tour, APlayersEveningGoesAsTold) {

@@ -13,16 +13,11 @@
 #include <QComboBox>
 #include <QListWidget>
 #include <QPushButton>
-#include <QTabWidget>
 #include <QtTest/QTest>
 
 namespace boulix {
 
 namespace {
-
-void showPage(Tour &tour, int index) {
-    control<QTabWidget>(tour.window(), "TabStrip").setCurrentIndex(index);
-}
 
 void pickType(Tour &tour, int type) {
     control<QAction>(tour.window(), ("mnuStatTypes_" + std::to_string(type)).c_str()).trigger();
@@ -33,7 +28,7 @@ int rows(Tour &tour) {
 }
 
 void frequencies(Tour &tour) {
-    showPage(tour, 1);
+    tour.turnTo("TabStrip", 1);
     tour.picture("page-statistiques");
     tour.press("tbarStats_1");
     EXPECT_EQ(rows(tour), 49);
@@ -109,7 +104,7 @@ void exportAndPrint(Tour &tour) {
 }
 
 void analysisOfTheLastDraw(Tour &tour) {
-    showPage(tour, 2);
+    tour.turnTo("TabStrip", 2);
     EXPECT_EQ(tour.label("lblTirInfo"), "Tirage N° 2 du 19/11/2003");
     auto &analyses = control<QListWidget>(tour.window(), "lstStatTirType");
     analyses.selectAll();

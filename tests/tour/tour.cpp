@@ -11,8 +11,11 @@
 #include <QAction>
 #include <QFile>
 #include <QLabel>
+#include <QLineEdit>
 #include <QProcess>
 #include <QScreen>
+#include <QTabBar>
+#include <QTabWidget>
 #include <QToolBar>
 #include <QtTest/QTest>
 
@@ -41,6 +44,7 @@ Tour::Tour() {
     platform.day = dateOf({2003, 11, 19});
     pdfPrinters_.printed = [this](const QString &fileName) { keepDocument(fileName); };
     setPrinterSystem(&pdfPrinters_);
+    setPrintWindows(&printWindows_);
 }
 
 void Tour::startProgram() {
@@ -85,6 +89,19 @@ void Tour::keepDocument(const QString &fileName) {
                           {QStringLiteral("-png"), QStringLiteral("-r"), QStringLiteral("80"),
                            QStringLiteral("-singlefile"), kept + QStringLiteral(".pdf"), kept}),
         0);
+}
+
+void Tour::turnTo(const char *tabs, int index) {
+    if (auto *pages = window().findChild<QTabWidget *>(QString::fromLatin1(tabs)))
+        return pages->setCurrentIndex(index);
+    control<QTabBar>(window(), tabs).setCurrentIndex(index);
+}
+
+void Tour::type(const QWidget &window, const std::string &box, const char *text) {
+    auto &edit = control<QLineEdit>(window, box.c_str());
+    edit.setFocus();
+    edit.selectAll();
+    QTest::keyClicks(&edit, QString::fromLatin1(text));
 }
 
 void Tour::press(const char *action) {

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "tour/pdfPrinters.h"
+#include "ui/printing/qtPrintWindows.h"
 #include "ui/support/screenTest.h"
 
 #include <QString>
@@ -20,6 +21,7 @@ class ReportView;
 class Tour : public ScreenTest {
   public:
     Tour();
+    ~Tour() override { setPrintWindows(nullptr); }
 
     /// The full name of `name` in the folder of this evening.
     std::string inFolder(const std::string &name) const { return file(name); }
@@ -40,6 +42,10 @@ class Tour : public ScreenTest {
     /// as a picture of its first page.
     void nextDocument(const char *name) { documentName_ = name; }
 
+    /// Goes to the page or tab at `index` of the tab strip `tabs`.
+    void turnTo(const char *tabs, int index);
+    /// Types `text` over what the box `box` of `window` holds.
+    static void type(const QWidget &window, const std::string &box, const char *text);
     /// Clicks the toolbar button `action` of the visible page.
     void press(const char *action);
     /// Clicks a row of a list, counted from 1.
@@ -58,6 +64,7 @@ class Tour : public ScreenTest {
     void keepDocument(const QString &fileName);
 
     PdfPrinters pdfPrinters_;
+    QtPrintWindows printWindows_;
     const char *documentName_ = nullptr;
     int pictures_ = 0;
 };

@@ -5,6 +5,7 @@
 #include "core/frmNbrSelector.h"
 #include "core/frmProgress.h"
 #include "core/globals.h"
+#include "layoutTest.h"
 #include "ui/frmAbout.h"
 #include "ui/frmSelDate.h"
 #include "ui/frmSplash.h"
@@ -25,35 +26,11 @@ namespace boulix {
 namespace {
 
 using testing_support::clippedControls;
+using testing_support::LayoutTest;
 
-/// Every window, with fonts of the usual size and half as large again.
-class LayoutTest : public ScreenTest, public ::testing::WithParamInterface<double> {
-  protected:
-    LayoutTest() : usual_(QApplication::font()) {
-        QFont scaled = usual_;
-        scaled.setPointSizeF(usual_.pointSizeF() * GetParam());
-        QApplication::setFont(scaled);
-        gAppInfo->init("Attention!!! Ce logiciel constitue une aide au jeu mais ne saurait en "
-                       "aucun cas garantir les gains. L'auteur décline toute responsabilité.",
-                       "Marcel Quillon", "Quillon Logiciels", 2003);
-    }
-    ~LayoutTest() override {
-        forget();
-        QApplication::setFont(usual_);
-    }
+class FrameLayoutTest : public LayoutTest {};
 
-    static void expectNothingClipped(QWidget &window) {
-        window.show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
-        QApplication::processEvents(); // what was told to be laid out again is
-        EXPECT_THAT(clippedControls(window), ::testing::IsEmpty());
-    }
-
-  private:
-    QFont usual_;
-};
-
-TEST_P(LayoutTest, NothingIsClippedInTheMainWindow) {
+TEST_P(FrameLayoutTest, NothingIsClippedInTheMainWindow) {
     MainWindow &window = start();
     mainWindow->database.lblDBCombDesc = "Tirage n° 2 du 30/12/2008";
     mainWindow->StatusBar[0] = "4858 combinaisons dans la base de données";
@@ -67,19 +44,19 @@ TEST_P(LayoutTest, NothingIsClippedInTheMainWindow) {
     expectNothingClipped(window);
 }
 
-TEST_P(LayoutTest, NothingIsClippedInTheNumberDialog) {
+TEST_P(FrameLayoutTest, NothingIsClippedInTheNumberDialog) {
     frmNbrSelector state;
     NumberDialog dialog(state);
     state.grd.selectNumber(5);
     expectNothingClipped(dialog);
 }
 
-TEST_P(LayoutTest, NothingIsClippedInTheDateDialog) {
+TEST_P(FrameLayoutTest, NothingIsClippedInTheDateDialog) {
     frmSelDate dialog;
     expectNothingClipped(dialog);
 }
 
-TEST_P(LayoutTest, NothingIsClippedInTheProgressWindow) {
+TEST_P(FrameLayoutTest, NothingIsClippedInTheProgressWindow) {
     frmProgress state;
     state.lblInfo = "Lecture du fichier historique-exemple.txt, une ligne après l'autre, jusqu'à "
                     "la fin du fichier";
@@ -87,12 +64,12 @@ TEST_P(LayoutTest, NothingIsClippedInTheProgressWindow) {
     expectNothingClipped(window);
 }
 
-TEST_P(LayoutTest, NothingIsClippedInTheAboutBox) {
+TEST_P(FrameLayoutTest, NothingIsClippedInTheAboutBox) {
     frmAbout about(*gAppInfo);
     expectNothingClipped(about);
 }
 
-TEST_P(LayoutTest, NothingIsClippedInTheSplashWindow) {
+TEST_P(FrameLayoutTest, NothingIsClippedInTheSplashWindow) {
     frmSplash splash({"Version 4.0.3", "boulix", "Quillon Logiciels", "(c) 2003",
                       "Windows 98, ME, NT, 2000, XP", gAppInfo->disclaimer()});
     expectNothingClipped(splash);
@@ -115,9 +92,7 @@ TEST(Clipping, ATextWithoutRoomAndAControlThatSticksOutAreFound) {
     EXPECT_EQ(clippedControls(window), (std::vector<std::string>{"narrow", "outside"}));
 }
 
-INSTANTIATE_TEST_SUITE_P(Fonts, LayoutTest, ::testing::Values(1.0, 1.5), [](const auto &font) {
-    return font.param > 1 ? std::string("Large") : std::string("Usual");
-});
+INSTANTIATE_TEST_SUITE_P(Fonts, FrameLayoutTest, LayoutTest::fontSizes(), LayoutTest::nameOf);
 
 /// The names of the controls that Tab reaches, from the first one round to it again.
 std::vector<std::string> tabOrder(QWidget &window) {

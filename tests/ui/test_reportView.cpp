@@ -286,6 +286,16 @@ TEST_F(ReportViewTest, ASortedListShowsItsKeyInTheHeader) {
     EXPECT_EQ(view->model()->index(1, 0).data().toString().toStdString(), "1");
 }
 
+TEST_F(ReportViewTest, AListThatKeepsItsColumnsVisibleFindsRoomForTheArrowOfTheSorting) {
+    show().keepAllColumnsVisible();
+    view->resize(view->minimumWidth(), 200);
+    for (const int column : {0, 1, 0}) {
+        list.sortByText(column);
+        QApplication::processEvents();
+        EXPECT_EQ(view->horizontalScrollBar()->maximum(), 0) << column;
+    }
+}
+
 TEST_F(ReportViewTest, AClickOnTheHeaderTellsTheColumn) {
     show();
     QSignalSpy told(view.get(), &ReportView::headerClicked);

@@ -162,6 +162,7 @@ int main(int argc, char **argv) {
     keepList();
     keepMainWindow();
     keepForecasts();
+    keepGames();
     keepPrintWindows();
     keepGraph();
     resetGlobals();

@@ -10,5 +10,6 @@ class QWidget;
 void keep(QWidget &window, const QString &name);
 
 void keepForecasts();
+void keepGames();
 void keepGraph();
 void keepPrintWindows();

@@ -1,0 +1,20 @@
+// SPDX-FileCopyrightText: The Boulix developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <QDialog>
+
+namespace boulix {
+
+class frmDisplayGame;
+
+/// The window that shows the rows of one system.
+class DisplayGameDialog : public QDialog {
+    Q_OBJECT
+
+  public:
+    explicit DisplayGameDialog(frmDisplayGame &rules, QWidget *parent = nullptr);
+};
+
+} // namespace boulix

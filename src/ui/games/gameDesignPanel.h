@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: The Boulix developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <QWidget>
+
+#include <array>
+
+class QCheckBox;
+class QComboBox;
+class QLineEdit;
+class QTabBar;
+class QToolBar;
+
+namespace boulix {
+
+class NumberBoardView;
+class ReportView;
+class SystemMakerPanel;
+class gameDesign;
+
+/// The side of the game page on which grids are made. Its tabs share the list, the board and the
+/// toolbar: each tab shows those of the controls that it has.
+class GameDesignPanel : public QWidget {
+    Q_OBJECT
+
+  public:
+    /// Shows `design`, which must live longer than the panel.
+    explicit GameDesignPanel(gameDesign &design, QWidget *parent = nullptr);
+
+    void refresh();
+
+  private:
+    void makeTabs();
+    void makeToolbar();
+    QWidget *makeSystemChoice();
+    QWidget *makeRandomCount();
+    QWidget *makeSources();
+    QWidget *makeGrids();
+    void showGameTypes();
+
+    gameDesign &design_;
+    QTabBar *tabGameDesign;
+    QToolBar *tbarGameDef = nullptr;
+    QWidget *systemChoice_ = nullptr;
+    QComboBox *cmbGameType = nullptr;
+    QWidget *randomCount_ = nullptr;
+    QLineEdit *txtNrandomGrid = nullptr;
+    QWidget *sources_ = nullptr;
+    std::array<QCheckBox *, 3> chkSelect{};
+    SystemMakerPanel *systems_;
+    QWidget *grids_ = nullptr;
+    NumberBoardView *grdGameDef;
+    ReportView *lvwGameDef;
+};
+
+} // namespace boulix

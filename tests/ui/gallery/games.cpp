@@ -1,0 +1,104 @@
+// SPDX-FileCopyrightText: The Boulix developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "core/globals.h"
+#include "core/modMaths.h"
+#include "draws/dbCombs.h"
+#include "eliminators/eliminators.h"
+#include "games/frmRandomComb.h"
+#include "games/game.h"
+#include "games/modGame.h"
+#include "keep.h"
+#include "ui/games/displayGameDialog.h"
+#include "ui/games/gameListDialog.h"
+#include "ui/games/randomCombDialog.h"
+#include "ui/mainWindow.h"
+#include "ui/winnings/winDateDialog.h"
+#include "winnings/gameWin.h"
+#include "winnings/rapport.h"
+#include "workbench/frmMain.h"
+#include "workbench/frmWinDate.h"
+
+#include <QString>
+#include <QTabWidget>
+
+#include <vector>
+
+using namespace boulix;
+
+namespace {
+
+/// A game of twenty grids, and one under construction.
+void makeGames() {
+    modMaths::precomputeCnk();
+    modGame::init();
+    gEliminators->init();
+    for (std::int16_t rank = 0; rank < rapport::size; ++rank)
+        gRapport->Value(rank, static_cast<float>(rank * rank) * 2.5F);
+    const gameDef &system = modGame::reducedGames[1];
+    std::vector<std::int16_t> numbers;
+    for (std::int16_t i = 0; i < system.nSelect(); ++i)
+        numbers.push_back(static_cast<std::int16_t>(i * 49 / system.nSelect() + 1));
+    selector chosen;
+    chosen.setSelect(system.nSelect(), system.nSelect());
+    chosen.setPrevSelect(system.nSelect(), numbers);
+    constructionGame->ComputeDefinedGame(system, chosen);
+    for (std::int32_t i = 1; i <= constructionGame->Count(); ++i)
+        currentGame->Add(constructionGame->shared(i));
+    mainWindow->load();
+    mainWindow->games.refill();
+}
+
+void keepPages() {
+    MainWindow window(*mainWindow);
+    mainWindow->clickTab(4);
+    mainWindow->elimination.tick(0, true);
+    mainWindow->elimination.txtEliminator[0] = "3";
+    mainWindow->elimination.tick(7, true);
+    keep(window, QStringLiteral("eliminatorTab"));
+    mainWindow->clickTab(5);
+    for (int tab = 0; tab < 6; ++tab) {
+        mainWindow->games.design.clickTab(tab);
+        keep(window, QStringLiteral("gameTab-%1").arg(tab));
+    }
+    auto *sides = window.findChild<QTabWidget *>(QStringLiteral("TabGame"));
+    for (int side = 0; side < 3; ++side) {
+        sides->setCurrentIndex(side);
+        if (side == winningsPage::performance)
+            mainWindow->winnings.clickPerfo(winningsPage::checkBase);
+        keep(window, QStringLiteral("winnings-%1").arg(side));
+    }
+    window.resize(window.minimumSizeHint());
+    keep(window, QStringLiteral("winnings-smallest"));
+}
+
+void keepDialogs() {
+    frmGameList list;
+    GameListDialog listDialog(list);
+    keep(listDialog, QStringLiteral("frmGameList"));
+
+    frmDisplayGame grids(modGame::reducedGames[1]);
+    DisplayGameDialog gridsDialog(grids);
+    keep(gridsDialog, QStringLiteral("frmDisplayGame"));
+
+    frmRandomComb draws;
+    draws.txtnComb = "200";
+    draws.clickCompute();
+    RandomCombDialog drawsDialog(draws);
+    keep(drawsDialog, QStringLiteral("frmRandomComb"));
+
+    std::vector<gameWin> wins;
+    for (std::int32_t draw = 5; draw <= gDbCombs->Count(); draw += 40)
+        wins.emplace_back(draw, draw % 3 + 1);
+    frmWinDate dates(wins);
+    WinDateDialog datesDialog(dates);
+    keep(datesDialog, QStringLiteral("frmWinDate"));
+}
+
+} // namespace
+
+void keepGames() {
+    makeGames();
+    keepPages();
+    keepDialogs();
+}
