@@ -3,14 +3,14 @@
 
 #pragma once
 
-#include <QDialog>
+#include "ui/listDialog.h"
 
 namespace boulix {
 
 class frmDisplayGame;
 
 /// The window that shows the rows of one system.
-class DisplayGameDialog : public QDialog {
+class DisplayGameDialog : public ListDialog {
     Q_OBJECT
 
   public:

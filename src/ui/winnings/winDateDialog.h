@@ -3,14 +3,14 @@
 
 #pragma once
 
-#include <QDialog>
+#include "ui/listDialog.h"
 
 namespace boulix {
 
 class frmWinDate;
 
 /// The window that lists the draws at which a game won at one rank.
-class WinDateDialog : public QDialog {
+class WinDateDialog : public ListDialog {
     Q_OBJECT
 
   public:
