@@ -19,6 +19,8 @@ namespace {
 
 /// How often the bar moves and the event queue runs, in grids.
 constexpr std::size_t rhythm = 50;
+/// The same while the grids are looked through before the first rule: some milliseconds.
+constexpr std::size_t gatherRhythm = 1U << 18U;
 
 /// What the progress window says while a rule runs, before and behind its threshold. The texts
 /// speak of "more than" and "less than", the tests include the threshold: the rules are known
@@ -165,6 +167,8 @@ void Elimination::gather(const eliminator *list) {
     for (const gameComb &grid : grids_) {
         profiles_.push_back(profileOf(grid));
         sums_.push_back(grid.sum());
+        if (profiles_.size() % gatherRhythm == 0)
+            desktop().runEvents();
     }
 }
 

@@ -67,7 +67,6 @@ class gamePage {
     void clear();
     void removeSelected();
     void eliminate();
-    void fill();
 
     eliminatorPage &rules_;
     gameView *view_ = nullptr;
