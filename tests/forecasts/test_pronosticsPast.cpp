@@ -4,6 +4,7 @@
 #include "forecastTest.h"
 #include "forecasts/pronostics.h"
 #include "plainRule.h"
+#include "support/locations.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -207,6 +208,29 @@ TEST_F(PronosticsPast, AgreesWithACountByHandOnRandomBases) {
         for (int at = std::max(draw - before, 1); at <= std::min(draw + after, 60); ++at)
             expected.push_back(presentIn(at, best));
         ASSERT_EQ(found(), expected) << "round " << round;
+    }
+}
+
+TEST_F(PronosticsPast, AgreesWithACountByHandOverTheLastHundredDrawsOfTheRealHistory) {
+    const auto history = testing_support::operatorHistory();
+    if (!history)
+        GTEST_SKIP() << "the operator's history is not there";
+    gDbCombs->dbFile().path(folder());
+    gDbCombs->dbFile().name("tirages.dbl");
+    desktop.answerOpen(history->string());
+    ASSERT_TRUE(gDbCombs->ImportFdjFile());
+    const std::int32_t last = gDbCombs->Count();
+    for (const PronoType type : {PronoType::outButNotLately, PronoType::absent,
+                                 PronoType::absentCouple, PronoType::rare}) {
+        set.clear();
+        set.Add(ruleOf(type, 4, 2));
+        const std::int32_t draw = last - 100;
+        ASSERT_TRUE(set.test(draw, 0, 100, 10));
+        const std::vector<int> best = plainBest(set, draw, 10);
+        std::vector<int> expected;
+        for (std::int32_t at = draw; at <= last; ++at)
+            expected.push_back(presentIn(at, best));
+        EXPECT_EQ(found(), expected) << "type " << static_cast<int>(type);
     }
 }
 

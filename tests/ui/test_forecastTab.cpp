@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "core/globals.h"
+#include "draws/dbCombs.h"
 #include "support/lottery.h"
 #include "ui/reportView.h"
 #include "ui/support/screenTest.h"
@@ -12,6 +13,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QToolButton>
+#include <QWindow>
 #include <QtTest/QTest>
 
 namespace boulix {
@@ -94,6 +96,25 @@ TEST_F(ForecastTabTest, ASavedForecastComesBackIntoTheBoxes) {
     robot.chooseFile(file("soir.pro"));
     press(forecastPage::loadRules);
     EXPECT_EQ(box("txtN_0").text().toStdString(), "12");
+}
+
+TEST_F(ForecastTabTest, WhileTheTestWindowIsOpenNoDrawCanBeAdded) {
+    addRandomDraws(60, random);
+    mainWindow->clickTab(1);
+    auto &add = control<QAction>(window, "tbarDB_2");
+    int added = 0;
+    QObject::connect(&add, &QAction::triggered, [&added] { ++added; });
+    robot.in("frmTestProno", [this](QWidget &dialog) {
+        EXPECT_TRUE(dialog.isModal());
+        for (QWidget *child : control<QWidget>(window, "tbarDB").findChildren<QToolButton *>())
+            QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {},
+                              child->mapTo(&window, child->rect().center()));
+        QTest::keySequence(window.windowHandle(), QKeySequence(QKeySequence::New));
+        dialog.close();
+    });
+    press(forecastPage::testOnPast);
+    EXPECT_EQ(added, 0);
+    EXPECT_EQ(gDbCombs->Count(), 60);
 }
 
 TEST_F(ForecastTabTest, TheTestWindowStepsThroughTheDrawsAndListsTheResult) {

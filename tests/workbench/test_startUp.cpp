@@ -10,8 +10,10 @@
 #include "core/text.h"
 #include "draws/dbCombs.h"
 #include "eliminators/eliminators.h"
+#include "forecasts/pronostics.h"
 #include "games/modGame.h"
 #include "support/boulixTest.h"
+#include "winnings/rapport.h"
 #include "workbench/frmMain.h"
 
 #include <filesystem>
@@ -208,6 +210,45 @@ TEST_F(StartUp, ALogThatCannotBeOpenedIsAFailureOfTheWholeStart) {
     std::filesystem::create_directory(file("boulix.log"));
     EXPECT_EQ(failureNumber([this] { start("-debug"); }), 75);
     EXPECT_FALSE(desktop.mainWindowShown);
+}
+
+TEST_F(StartUp, WithoutADefaultPrizeTableOneMessageIsShownAndTheProgramStartsWithZeros) {
+    start("");
+    ASSERT_EQ(desktop.messages.size(), 1U);
+    EXPECT_EQ(desktop.messages[0], (ShownBox{"Erreur lors de l'accès au fichier defrapp.rap.",
+                                             Icon::information, "boulix: Erreur N° 4204"}));
+    EXPECT_TRUE(desktop.mainWindowShown);
+    for (const std::string &amount : mainWindow->winnings.txtRapPrice)
+        EXPECT_EQ(amount, "0");
+}
+
+TEST_F(StartUp, ASpoiltDefaultPrizeTableDoesNotKeepTheProgramFromStarting) {
+    for (const std::size_t length : {0U, 50U, 200U, 1408U}) {
+        testing_support::writeBytes(file("defrapp.rap"), std::string(length, 'x'));
+        desktop.messages.clear();
+        desktop.mainWindowShown = false;
+        resetGlobals();
+        start("");
+        EXPECT_EQ(desktop.messages.size(), 1U) << length;
+        EXPECT_TRUE(desktop.mainWindowShown) << length;
+    }
+}
+
+TEST_F(StartUp, TheDefaultPrizeTableIsInTheBoxesWhenTheWindowAppears) {
+    gAppInfo->init("", "", "", 2003);
+    rapport table;
+    table.Value(10, 1234.5F);
+    table.save(file("defrapp.rap"));
+    start("");
+    EXPECT_EQ(desktop.messages.size(), 0U);
+    EXPECT_EQ(mainWindow->winnings.txtRapPrice[10], "1234.5");
+}
+
+TEST_F(StartUp, TheFourForecastRulesAreThereAndOnTheirPage) {
+    start("");
+    EXPECT_EQ(gPronostics->Count(), 4);
+    EXPECT_EQ(mainWindow->forecasts.lblPronoTitle[1],
+              "Le numéro n'est pas sorti depuis plus de N tirages");
 }
 
 } // namespace
