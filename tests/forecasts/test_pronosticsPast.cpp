@@ -215,10 +215,7 @@ TEST_F(PronosticsPast, AgreesWithACountByHandOverTheLastHundredDrawsOfTheRealHis
     const auto history = testing_support::operatorHistory();
     if (!history)
         GTEST_SKIP() << "the operator's history is not there";
-    gDbCombs->dbFile().path(folder());
-    gDbCombs->dbFile().name("tirages.dbl");
-    desktop.answerOpen(history->string());
-    ASSERT_TRUE(gDbCombs->ImportFdjFile());
+    ASSERT_TRUE(importHistory(desktop, folder(), *history));
     const std::int32_t last = gDbCombs->Count();
     for (const PronoType type : {PronoType::outButNotLately, PronoType::absent,
                                  PronoType::absentCouple, PronoType::rare}) {

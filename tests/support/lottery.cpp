@@ -40,4 +40,12 @@ void addRandomDraws(int count, std::mt19937 &random, std::int16_t last) {
         addDraw(randomDraw(random, last));
 }
 
+bool importHistory(ScriptedDesktop &desktop, const std::string &folder,
+                   const std::filesystem::path &file) {
+    gDbCombs->dbFile().path(folder);
+    gDbCombs->dbFile().name("tirages.dbl");
+    desktop.answerOpen(file.string());
+    return gDbCombs->ImportFdjFile();
+}
+
 } // namespace boulix::testing_support

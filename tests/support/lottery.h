@@ -3,10 +3,13 @@
 #pragma once
 
 #include "draws/lotoComb.h"
+#include "support/scriptedDesktop.h"
 
 #include <array>
 #include <cstdint>
+#include <filesystem>
 #include <random>
+#include <string>
 
 namespace boulix::testing_support {
 
@@ -24,11 +27,16 @@ SevenNumbers randomDraw(std::mt19937 &random, std::int16_t last = 49);
 /// Appends `count` such draws.
 void addRandomDraws(int count, std::mt19937 &random, std::int16_t last = 49);
 
+/// Imports a file of the operator into the base of `folder`, which is empty; false when it fails.
+bool importHistory(ScriptedDesktop &desktop, const std::string &folder,
+                   const std::filesystem::path &file);
+
 } // namespace boulix::testing_support
 
 namespace boulix {
 using testing_support::addDraw;
 using testing_support::addRandomDraws;
+using testing_support::importHistory;
 using testing_support::lotoCombOf;
 using testing_support::randomDraw;
 using testing_support::SevenNumbers;

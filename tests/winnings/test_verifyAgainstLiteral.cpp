@@ -135,10 +135,7 @@ TEST_F(VerifyAgainstLiteral, AgreesOnAGameOfFiveHundredGridsOverTheRealHistory) 
     const auto history = testing_support::operatorHistory();
     if (!history)
         GTEST_SKIP() << "the operator's history is not there";
-    gDbCombs->dbFile().path(folder());
-    gDbCombs->dbFile().name("tirages.dbl");
-    desktop.answerOpen(history->string());
-    ASSERT_TRUE(gDbCombs->ImportFdjFile());
+    ASSERT_TRUE(importHistory(desktop, folder(), *history));
     ASSERT_EQ(gDbCombs->Count(), 4858);
     const std::array<float, 11> amounts = {0,     0,     0,      2.5F,     2.9F,      6.1F,
                                            32.4F, 65.2F, 987.6F, 24567.8F, 1234567.0F};
