@@ -109,7 +109,7 @@ std::string madeHistory(int lines) {
 
 TEST_F(RealWindowTest, ALongImportShowsItsProgressAndIsCancelledAtOnce) {
     start();
-    writeBytes(file("longue.txt"), madeHistory(400'000));
+    writeBytes(file("longue.txt"), madeHistory(3'000'000));
     const std::string baseBefore = readBytes(file("tirages.dbl"));
     QElapsedTimer sinceClick;
     robot.chooseFile(file("longue.txt")).in("frmProgress", [&](QWidget &progress) {
