@@ -105,9 +105,12 @@ std::string lineEnd(std::string_view text) {
     return lineFeedOnly ? "\n" : crlf;
 }
 
-/// Puts whole lines, each with its line end, at `at`; a last line without one gets it before.
+/// Puts whole lines, each with its line end, at `at`; a last line without one gets it before, and
+/// one that was cut in the middle of it gets the missing half.
 std::string withLines(std::string_view text, std::size_t at, const std::string &lines) {
     std::string result(text.substr(0, at));
+    if (!result.empty() && result.back() == '\r')
+        result += '\n';
     if (!result.empty() && result.back() != '\n')
         result += lineEnd(text);
     return result + lines + std::string(text.substr(at));

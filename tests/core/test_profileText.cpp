@@ -106,6 +106,12 @@ TEST(ProfileText, ALastLineWithoutAnEndGetsOneBeforeALineIsAdded) {
     EXPECT_EQ(withValue("[s]\na=1", "s", "a", "2"), "[s]\na=2");
 }
 
+TEST(ProfileText, AFileCutInTheMiddleOfALineEndGetsTheMissingHalf) {
+    EXPECT_EQ(withValue("[grille]\r", "grille", "b", "2"), "[grille]\r\nb=2\r\n");
+    EXPECT_EQ(withValue("[grille\r", "grille", "b", "2"), "[grille\r\nb=2\r\n");
+    EXPECT_EQ(withValue("[grille]\r\na=1\r", "grille", "b", "2"), "[grille]\r\na=1\r\nb=2\r\n");
+}
+
 TEST(ProfileText, NewLinesEndAsTheOthersDo) {
     EXPECT_EQ(withValue("[s]\na=1\n", "s", "k", "2"), "[s]\na=1\nk=2\n");
     EXPECT_EQ(withValue("[s]\r\na=1\r\n", "s", "k", "2"), "[s]\r\na=1\r\nk=2\r\n");
