@@ -20,12 +20,14 @@
 #include "ui/frmAbout.h"
 #include "ui/frmSelDate.h"
 #include "ui/frmSplash.h"
+#include "ui/helpWindow.h"
 #include "ui/mainWindow.h"
 #include "ui/numberBoardView.h"
 #include "ui/numberDialog.h"
 #include "ui/progressWindow.h"
 #include "ui/qtDesktop.h"
 #include "ui/qtPlatform.h"
+#include "ui/qtText.h"
 #include "ui/reportView.h"
 #include "ui/theme.h"
 #include "workbench/frmMain.h"
@@ -120,6 +122,15 @@ void keepIdentity() {
     keep(splash, QStringLiteral("frmSplash-failed"));
 }
 
+void keepHelp() {
+    HelpWindow help;
+    for (const char *name : {"index", "base", "statistiques", "eliminateurs", "jeux"}) {
+        const auto page = support::checkoutFolder() / "help" / (std::string(name) + ".html");
+        help.showPage(toQt(page.string()));
+        keep(help, QStringLiteral("frmHelp-") + QLatin1String(name));
+    }
+}
+
 void keepList() {
     reportList list;
     list.columns({{"Date", " 00/00/0000 ", false}, {"T", " 000 ", true}, {"1", " 000 ", true}});
@@ -159,6 +170,7 @@ int main(int argc, char **argv) {
     keepBoards();
     keepDialogs();
     keepIdentity();
+    keepHelp();
     keepList();
     keepMainWindow();
     keepForecasts();
