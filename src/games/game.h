@@ -58,12 +58,12 @@ class game {
     /// memory, in order. This is the quickest way through a large game.
     template <class Use>
     void forEachStretch(Use use) const {
-        std::size_t first = 0;
-        for (std::size_t i = 1; i <= grids_.size(); ++i)
-            if (i == grids_.size() || !grids_[i - 1].adjoins(grids_[i])) {
-                use(&*grids_[first], i - first);
-                first = i;
-            }
+        for (std::size_t first = 0; first < grids_.size();) {
+            const std::size_t count =
+                GridRef::stretch(grids_.data() + first, grids_.size() - first);
+            use(&*grids_[first], count);
+            first += count;
+        }
     }
 
     /// Puts a grid at the end, under `key` when that is not empty, and gives it back. Without

@@ -34,10 +34,8 @@ class GridStore {
         if (--chunkOf(place).references == 0)
             closeChunk(place / chunkSize);
     }
-    /// Whether the grid at `next` lies directly behind the one at `place` in memory.
-    static bool adjoin(Place place, Place next) {
-        return next == place + 1 && next % chunkSize != 0;
-    }
+    /// How many grids can lie one behind the other in memory, from the one at `place` on.
+    static std::size_t room(Place place) { return chunkSize - place % chunkSize; }
     /// How many chunks are held.
     std::size_t chunkCount() const { return chunks_.size() - free_.size(); }
 
@@ -94,8 +92,9 @@ class GridRef {
     explicit operator bool() const { return place_ != GridStore::nowhere; }
     gameComb &operator*() const { return gridStore.at(place_); }
     gameComb *operator->() const { return &gridStore.at(place_); }
-    /// Whether the grid of `next` lies directly behind this one in memory.
-    bool adjoins(const GridRef &next) const { return GridStore::adjoin(place_, next.place_); }
+    /// How many of the `count` references from `first` on, at least one, have their grids one
+    /// behind the other in memory.
+    static std::size_t stretch(const GridRef *first, std::size_t count);
     /// Whether both refer to the same grid, not to equal ones.
     bool operator==(const GridRef &other) const { return place_ == other.place_; }
 

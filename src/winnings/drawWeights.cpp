@@ -7,9 +7,21 @@
 #include "draws/lotoComb.h"
 #include "winnings/gameResult.h"
 
+#include <cstring>
 #include <numeric>
 
 namespace boulix {
+
+namespace {
+
+/// The first four numbers of a grid, to be compared at once.
+std::uint64_t headOf(const gameComb::Numbers &numbers) {
+    std::uint64_t head = 0;
+    std::memcpy(&head, numbers.data(), sizeof head);
+    return head;
+}
+
+} // namespace
 
 drawWeights::drawWeights(const lotoComb &draw) {
     for (int i = 1; i <= lotoComb::size; ++i)
@@ -18,13 +30,30 @@ drawWeights::drawWeights(const lotoComb &draw) {
 }
 
 void drawWeights::count(const gameComb *grids, std::size_t count) {
-    const auto weight = [this](std::int16_t n) { return weights_[static_cast<std::uint16_t>(n)]; };
-    for (std::size_t i = 0; i < count; ++i) {
-        const gameComb::Numbers &n = grids[i].numbers();
-        const int worth =
-            weight(n[0]) + weight(n[1]) + weight(n[2]) + weight(n[3]) + weight(n[4]) + weight(n[5]);
-        ++grids_[static_cast<std::size_t>(worth)][i % turns];
+    const auto weight = [this](std::int16_t n) {
+        return std::size_t{weights_[static_cast<std::uint16_t>(n)]};
+    };
+    std::uint64_t head = 0; // of four zeros
+    auto *counters = &grids_[4 * weight(0)];
+    const auto take = [&](const gameComb &grid, std::size_t turn) {
+        const gameComb::Numbers &n = grid.numbers();
+        const std::uint64_t nextHead = headOf(n);
+        if (nextHead != head) {
+            head = nextHead;
+            counters = &grids_[weight(n[0]) + weight(n[1]) + weight(n[2]) + weight(n[3])];
+        }
+        ++counters[weight(n[4]) + weight(n[5])][turn];
+    };
+    const gameComb *const end = grids + count;
+    static_assert(turns == 4);
+    for (; end - grids >= 4; grids += 4) {
+        take(grids[0], 0);
+        take(grids[1], 1);
+        take(grids[2], 2);
+        take(grids[3], 3);
     }
+    for (; grids != end; ++grids)
+        take(*grids, 0);
 }
 
 RankCounts drawWeights::wins() const {

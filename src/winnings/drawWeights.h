@@ -19,6 +19,9 @@ using RankCounts = std::array<std::int32_t, 12>;
 /// the draw counts 1, its complementary number 16, any other nothing. The sum over a grid then
 /// says all: how many of its numbers match, and whether the complementary one is among them. It
 /// does so for every grid and every draw, sorted or not, with repeated numbers or zeros.
+///
+/// In a game that was made in order, neighbours share their first four numbers as a rule: what
+/// those are worth is looked up only where they change.
 class drawWeights {
   public:
     explicit drawWeights(const lotoComb &draw);

@@ -8,6 +8,7 @@
 #include "printing/modPrinter.h"
 #include "printing/slipTest.h"
 
+#include <numeric>
 #include <random>
 #include <vector>
 
@@ -63,6 +64,26 @@ TEST_F(GameSetTest, AWalkInStretchesMeetsEveryGridInOrder) {
     for (const gameComb &grid : grids)
         expected.push_back(grid.num(1));
     EXPECT_EQ(met, expected);
+}
+
+TEST_F(GameSetTest, AStretchEndsWhereverAGridIsOutOfItsPlace) {
+    game others;
+    for (std::int16_t i = 1; i <= 40; ++i)
+        others.Add(GridRef(gameComb({i, 2, 3, 4, 5, 6})));
+    for (std::int32_t stray = 2; stray <= 40; ++stray) {
+        grids.clear();
+        for (std::int32_t i = 1; i <= 40; ++i)
+            grids.Add(others.shared(i == stray ? 1 : i));
+        std::vector<std::int16_t> met;
+        grids.forEachStretch([&met](const gameComb *stretch, std::size_t count) {
+            for (std::size_t i = 0; i < count; ++i)
+                met.push_back(stretch[i].num(1));
+        });
+        std::vector<std::int16_t> expected(40);
+        std::iota(expected.begin(), expected.end(), std::int16_t{1});
+        expected[static_cast<std::size_t>(stray - 1)] = 1;
+        EXPECT_EQ(met, expected) << stray;
+    }
 }
 
 TEST_F(GameSetTest, AWalkInStretchesOfAnEmptyGameMeetsNothing) {

@@ -87,6 +87,23 @@ TEST_F(VerifyAgainstLiteral, AgreesOnDrawsAndGridsOfFewNumbersWithHighRanks) {
     expectEqualOverTheBase();
 }
 
+TEST_F(VerifyAgainstLiteral, AgreesOnGridsInOrderWhichShareTheirFirstNumbers) {
+    randomAmounts();
+    addRandomDraws(20, random, 12);
+    addDraw({0, 1, 2, 3, 4, 5, 6});
+    for (int zeros = 0; zeros < 5; ++zeros)
+        addGrid({0, 0, 0, 0, 0, static_cast<std::int16_t>(zeros)});
+    for (unsigned bits = 0; bits < 1U << 12; ++bits) {
+        std::vector<std::int16_t> numbers;
+        for (std::int16_t n = 1; n <= 12; ++n)
+            if ((bits >> (12 - n) & 1U) != 0)
+                numbers.push_back(n);
+        if (numbers.size() == 6)
+            addGrid({numbers[0], numbers[1], numbers[2], numbers[3], numbers[4], numbers[5]});
+    }
+    expectEqualOverTheBase();
+}
+
 TEST_F(VerifyAgainstLiteral, AgreesOnImpossibleGridsAmongRealOnes) {
     randomAmounts();
     addRandomDraws(40, random, 15);
