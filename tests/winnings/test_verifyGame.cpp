@@ -132,6 +132,20 @@ TEST_F(VerifyGame, SixMatchesWithTheComplementaryFailAndTheTablesStay) {
     EXPECT_EQ(winsAt(11), (Pairs{{1, 1}}));
 }
 
+// The counts are 32 bits wide: the game of all grids passes them after some 420 draws.
+TEST_F(VerifyGame, MoreWinsThanTheirWidthHoldsAreAnOverflowAndTheTablesStay) {
+    const GridRef winner(gameComb({1, 12, 13, 14, 15, 16}));
+    grids.Add(winner);
+    addDraw({1, 2, 3, 4, 5, 6, 7});
+    verifyGame();
+    while (grids.Count() < 65538)
+        grids.Add(winner);
+    while (gDbCombs->Count() < 32768)
+        addDraw({1, 2, 3, 4, 5, 6, 7});
+    EXPECT_EQ(failureNumber([&] { verifyGame(); }), 6);
+    EXPECT_EQ(winsAt(1), (Pairs{{1, 1}}));
+}
+
 TEST_F(VerifyGame, ChecksTheGameAndTheBaseAsTheyWereAtItsStart) {
     for (int i = 0; i < 40; ++i)
         addDraw({1, 2, 3, 4, 5, 6, 7});
