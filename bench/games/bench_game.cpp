@@ -69,7 +69,7 @@ void manualGame(benchmark::State &state, void (*reference)()) {
             constructionGame->clear();
             constructionGame->ComputeManualGame(sel);
         },
-        reference);
+        reference, bench_support::processorSecondsOf);
     state.counters["bytesPerGrid"] =
         static_cast<double>(bench_support::memoryPeak() - before) / allGrids;
     state.counters["longestGap_ms"] = place.desktop.longestGapMilliseconds();
@@ -158,12 +158,15 @@ class EliminationPlace {
     game made_;
 };
 
+constexpr int eliminations = 15;
+
 void elimination(benchmark::State &state, EliminationPlace &place,
                  const std::function<void()> &reference) {
-    std::vector<game> games(5, place.fresh());
+    std::vector<game> games(eliminations, place.fresh());
     std::size_t next = 0;
     measureRatio(
-        state, 10, [&] { games[next++].EliminComb(); }, reference);
+        state, 10, [&] { games[next++].EliminComb(); }, reference,
+        bench_support::processorSecondsOf);
     state.counters["left"] = games[0].Count();
 }
 
@@ -181,7 +184,7 @@ void EliminationAgainstAPassOverReadyMasks(benchmark::State &state) {
 BENCHMARK(EliminationAgainstAPassOverReadyMasks)
     ->UseManualTime()
     ->Unit(benchmark::kMillisecond)
-    ->Iterations(5);
+    ->Iterations(eliminations);
 
 /// ... against a pass over the game that makes the mask of each grid and counts its even numbers.
 void EliminationAgainstAPassOverTheMasksOfTheGame(benchmark::State &state) {
@@ -197,7 +200,7 @@ void EliminationAgainstAPassOverTheMasksOfTheGame(benchmark::State &state) {
 BENCHMARK(EliminationAgainstAPassOverTheMasksOfTheGame)
     ->UseManualTime()
     ->Unit(benchmark::kMillisecond)
-    ->Iterations(5);
+    ->Iterations(eliminations);
 
 constexpr std::int32_t savedGrids = 2'000'000;
 

@@ -44,6 +44,10 @@ class eliminators {
     auto begin() const { return rules_.begin(); }
     auto end() const { return rules_.end(); }
 
+    /// Whether the rule at `index` is there and on.
+    bool isOn(int index) const {
+        return index <= Count() && Item(index).status() != eliminator::off;
+    }
     /// Whether the threshold of every active rule lies in its range. The first one that does not
     /// is reported with its number, 2901 to 2907. The list rule is not checked.
     bool verify() const;

@@ -8,7 +8,7 @@
 #include "core/modMaths.h"
 #include "eliminators/eliminators.h"
 #include "games/game.h"
-#include "games/gridProfile.h"
+#include "games/gridJudge.h"
 
 #include <algorithm>
 #include <array>
@@ -19,8 +19,6 @@ namespace {
 
 /// How often the bar moves and the event queue runs, in grids.
 constexpr std::size_t rhythm = 50;
-/// The same while the grids are looked through before the first rule: some milliseconds.
-constexpr std::size_t gatherRhythm = 1U << 18U;
 
 /// What the progress window says while a rule runs, before and behind its threshold. The texts
 /// speak of "more than" and "less than", the tests include the threshold: the rules are known
@@ -47,8 +45,8 @@ std::string stageText(int rule, std::int16_t value) {
     return text.before + std::to_string(value) + text.behind;
 }
 
-// The tests on the numbers themselves, for grids that have no profile: those with a number
-// outside 1 to 49, as a file can hold them.
+// The rules one by one, for grids that the judge does not know: those with a number outside 1 to
+// 49, as a file can hold them.
 
 /// Whether `limit` numbers or more fall into the same group of `divisor`. A number whose group is
 /// outside 0 to `divisor` fails with `Failure::subscriptOutOfRange`.
@@ -88,6 +86,10 @@ bool condemnsOddGrid(int rule, const eliminator &settings, const gameComb &grid)
         return groupReaches(grid, 10, settings.Value());
     case 2:
         return groupReaches(grid, 8, settings.Value());
+    case 3:
+        return grid.sum() <= settings.Value();
+    case 4:
+        return grid.sum() >= settings.Value();
     case 5:
         return parityReaches(grid, 0, settings.Value());
     case 6:
@@ -99,114 +101,63 @@ bool condemnsOddGrid(int rule, const eliminator &settings, const gameComb &grid)
     }
 }
 
-gridProfile::Reaches profileTest(int rule, int value) {
-    using namespace gridProfile;
-    switch (rule) {
-    case 1:
-        return {tens, value};
-    case 2:
-        return {eights, value};
-    case 5:
-        return {even, value};
-    case 6:
-        return {odd, value};
-    case 7:
-        return {longestRun, std::max(value, 1)}; // a grid without a run is never condemned
-    default:
-        return {listed, 1};
-    }
-}
-
 /// One run of the rules over a game: which grids are condemned.
 class Elimination {
   public:
     Elimination(const game &grids, frmProgress &progress)
-        : grids_(grids), count_(static_cast<std::size_t>(grids.Count())), flags_(count_),
-          progress_(progress) {}
+        : grids_(grids), flags_(static_cast<std::size_t>(grids.Count())), progress_(progress) {}
 
     /// The rules that are on, in their order.
     void run();
     const std::vector<std::uint8_t> &flags() const { return flags_; }
 
   private:
-    void gather(const eliminator *list);
+    void judgeAll();
     void runRule(int rule, const eliminator &settings);
-    void testSums(const eliminator &settings, bool low);
-    void testProfiles(int rule, const eliminator &settings);
-    template <class Test>
-    void flagEach(const Test &test);
 
     const game &grids_;
-    std::size_t count_;
     std::vector<std::uint8_t> flags_; // not 0: condemned
-    std::vector<std::uint64_t> profiles_;
-    std::vector<std::int16_t> sums_;
+    std::vector<std::size_t> odd_;    // grids that the judge does not know, ascending
     frmProgress &progress_;
 };
 
 void Elimination::run() {
-    const eliminators &rules = *gEliminators;
-    const auto active = [&](int rule) {
-        return rule <= rules.Count() && rules.Item(rule).status() != eliminator::off;
-    };
-    const int listRule = eliminators::listRule;
-    gather(active(listRule) ? &rules.Item(listRule) : nullptr);
+    judgeAll();
     for (int rule = 1; rule <= eliminators::ruleCount; ++rule) {
-        if (!active(rule))
+        if (!gEliminators->isOn(rule))
             continue;
-        runRule(rule, rules.Item(rule));
+        runRule(rule, gEliminators->Item(rule));
         progress_.ProgressBar2.value = rule + 1;
     }
 }
 
-/// Collects from the grids what the rules look at.
-void Elimination::gather(const eliminator *list) {
-    const gridProfile::Maker profileOf(list);
-    profiles_.reserve(count_);
-    sums_.reserve(count_);
-    for (const gameComb &grid : grids_) {
-        profiles_.push_back(profileOf(grid));
-        sums_.push_back(grid.sum());
-        if (profiles_.size() % gatherRhythm == 0)
-            desktop().runEvents();
-    }
-}
-
-void Elimination::runRule(int rule, const eliminator &settings) {
-    progress_.lblInfo = stageText(rule, settings.Value());
-    progress_.ProgressBar.range(1, static_cast<std::int64_t>(count_) + 1);
-    if (rule == 3 || rule == 4)
-        testSums(settings, rule == 3);
-    else
-        testProfiles(rule, settings);
-}
-
-void Elimination::testSums(const eliminator &settings, bool low) {
-    const std::int16_t value = settings.Value();
-    if (low)
-        flagEach([&](std::size_t i) { return sums_[i] <= value; });
-    else
-        flagEach([&](std::size_t i) { return sums_[i] >= value; });
-}
-
-void Elimination::testProfiles(int rule, const eliminator &settings) {
-    const gridProfile::Reaches reaches = profileTest(rule, settings.Value());
-    flagEach([&](std::size_t i) {
-        if (profiles_[i] != gridProfile::none)
-            return reaches(profiles_[i]);
-        return flags_[i] == 0 &&
-               condemnsOddGrid(rule, settings, grids_.Item(static_cast<std::int64_t>(i) + 1));
+/// Judges all grids by all rules: one look at each costs little more than the way to it.
+void Elimination::judgeAll() {
+    const GridJudge judge(*gEliminators);
+    std::size_t done = 0;
+    grids_.forEachStretch([&](const gameComb *stretch, std::size_t count) {
+        if (!judge.judge(stretch, count, &flags_[done]))
+            for (std::size_t i = 0; i < count; ++i)
+                if (!judge.knows(stretch[i])) {
+                    flags_[done + i] = 0;
+                    odd_.push_back(done + i);
+                }
+        done += count;
     });
 }
 
-/// Sets the flag of each grid, by its index from 0, for which `test` says so.
-template <class Test>
-void Elimination::flagEach(const Test &test) {
-    for (std::size_t first = 0; first < count_; first += rhythm) {
-        const std::size_t last = std::min(first + rhythm, count_);
-        for (std::size_t i = first; i < last; ++i)
-            flags_[i] |= static_cast<std::uint8_t>(test(i));
-        if (last - first < rhythm)
+/// Shows the rule at work. What is left of its work are the odd grids: each is looked at when its
+/// turn comes, because it can make the rule fail or complain.
+void Elimination::runRule(int rule, const eliminator &settings) {
+    progress_.lblInfo = stageText(rule, settings.Value());
+    progress_.ProgressBar.range(1, static_cast<std::int64_t>(flags_.size()) + 1);
+    auto odd = odd_.begin();
+    for (std::size_t last = rhythm;; last += rhythm) {
+        for (; odd != odd_.end() && *odd < last; ++odd)
+            if (flags_[*odd] == 0)
+                flags_[*odd] = static_cast<std::uint8_t>(condemnsOddGrid(
+                    rule, settings, grids_.Item(static_cast<std::int64_t>(*odd) + 1)));
+        if (last > flags_.size())
             break;
         progress_.ProgressBar.value = static_cast<std::int64_t>(last);
         desktop().runEvents();
@@ -233,19 +184,18 @@ void game::EliminComb() {
                           gAppInfo->name());
 }
 
-/// Removes the flagged grids in one pass. The event queue runs at each step and a list on the
-/// screen may look at the game meanwhile: until the end every place holds a grid.
+/// Removes the flagged grids in one pass. A list on the screen may look at the game whenever the
+/// event queue runs: until the end every place holds a grid.
 void game::sweep(const std::vector<std::uint8_t> &flags, progressBar &bar) {
     std::size_t kept = 0;
-    for (std::size_t i = 0; i < flags.size(); ++i) {
-        if (flags[i] == 0) {
-            if (kept != i)
-                std::swap(grids_[kept], grids_[i]);
-            ++kept;
+    for (std::size_t i = 0; i < flags.size();) {
+        for (const std::size_t last = std::min(i + rhythm, flags.size()); i < last; ++i) {
+            swap(grids_[kept], grids_[i]);
+            kept += static_cast<std::size_t>(flags[i] == 0);
         }
+        if (const std::size_t next = kept + 1; next >= rhythm)
+            bar.value = static_cast<std::int64_t>(next - next % rhythm);
         desktop().runEvents();
-        if ((kept + 1) % rhythm == 0)
-            bar.value = static_cast<std::int64_t>(kept) + 1;
     }
     if (!keys_.empty())
         for (std::size_t i = flags.size(); i > 0; --i)

@@ -32,21 +32,22 @@ void GridStore::closeChunk(std::uint32_t number) {
 }
 
 std::size_t GridRef::stretch(const GridRef *first, std::size_t count) {
-    constexpr std::size_t step = 16; // so many at a time, as the compiler can compare them at once
-    const std::size_t room = std::min(count, GridStore::room(first->place_));
-    const auto misplaced = [first](std::size_t i) {
-        return first[i].place_ ^ (first->place_ + static_cast<GridStore::Place>(i));
+    constexpr std::size_t step = 64; // so many at a time, as the compiler can compare them at once
+    const GridStore::Place start = first->place_;
+    const std::size_t room = std::min(count, GridStore::room(start));
+    const auto stepFollows = [&](std::size_t begin) {
+        GridStore::Place strays = 0;
+        for (std::size_t i = begin; i < begin + step; ++i)
+            strays |= first[i].place_ ^ (start + static_cast<GridStore::Place>(i));
+        return strays == 0;
     };
     std::size_t length = 1;
-    for (; length + step <= room; length += step) {
-        GridStore::Place strays = 0;
-        for (std::size_t i = 0; i < step; ++i)
-            strays |= misplaced(length + i);
-        if (strays != 0)
-            break;
-    }
-    while (length < room && misplaced(length) == 0)
+    while (length < room && first[length].place_ == start + length) {
         ++length;
+        if (length % step == 0)
+            while (length + step <= room && stepFollows(length))
+                length += step;
+    }
     return length;
 }
 

@@ -89,6 +89,8 @@ class GridRef {
             gridStore.release(place_);
     }
 
+    friend void swap(GridRef &one, GridRef &other) noexcept { std::swap(one.place_, other.place_); }
+
     explicit operator bool() const { return place_ != GridStore::nowhere; }
     gameComb &operator*() const { return gridStore.at(place_); }
     gameComb *operator->() const { return &gridStore.at(place_); }

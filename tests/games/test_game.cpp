@@ -68,18 +68,18 @@ TEST_F(GameSetTest, AWalkInStretchesMeetsEveryGridInOrder) {
 
 TEST_F(GameSetTest, AStretchEndsWhereverAGridIsOutOfItsPlace) {
     game others;
-    for (std::int16_t i = 1; i <= 40; ++i)
+    for (std::int16_t i = 1; i <= 200; ++i)
         others.Add(GridRef(gameComb({i, 2, 3, 4, 5, 6})));
-    for (std::int32_t stray = 2; stray <= 40; ++stray) {
+    for (std::int32_t stray = 2; stray <= 200; ++stray) {
         grids.clear();
-        for (std::int32_t i = 1; i <= 40; ++i)
+        for (std::int32_t i = 1; i <= 200; ++i)
             grids.Add(others.shared(i == stray ? 1 : i));
         std::vector<std::int16_t> met;
         grids.forEachStretch([&met](const gameComb *stretch, std::size_t count) {
             for (std::size_t i = 0; i < count; ++i)
                 met.push_back(stretch[i].num(1));
         });
-        std::vector<std::int16_t> expected(40);
+        std::vector<std::int16_t> expected(200);
         std::iota(expected.begin(), expected.end(), std::int16_t{1});
         expected[static_cast<std::size_t>(stray - 1)] = 1;
         EXPECT_EQ(met, expected) << stray;

@@ -288,7 +288,7 @@ TEST_F(EliminationTest, TheProgressWindowShowsEachRuleAndNoCancelButton) {
 
     ASSERT_EQ(desktop.progressRuns.size(), 1U);
     const auto &run = desktop.progressRuns[0];
-    EXPECT_EQ(run.turns, 8 * 2 + 120);
+    EXPECT_EQ(run.turns, 8 * 2 + 3) << "every fifty grids, and at the end of the sweep";
     const std::vector<std::string> texts = {
         "Combinaisons contenant plus de 6 numéros de la même dizaine.",
         "Combinaisons contenant plus de 6 numéros de la même septaine.",
@@ -316,6 +316,21 @@ TEST_F(EliminationTest, TheProgressWindowShowsEachRuleAndNoCancelButton) {
         EXPECT_EQ(run.steps[i].ProgressBar2.value, 9);
     EXPECT_EQ(run.last.ProgressBar.value, 100);
     EXPECT_EQ(run.last.ProgressBar2.value, 10);
+}
+
+TEST_F(EliminationTest, TheSweepMovesTheBarToTheFiftiesOfTheGridsThatStay) {
+    // Of each hundred grids the first twenty stay.
+    for (int i = 0; i < 600; ++i)
+        fill({i % 100 < 20 ? Numbers{1, 12, 23, 34, 45, 46} : Numbers{1, 12, 23, 34, 46, 48}});
+    turnOn(5, 4);
+    grids.EliminComb();
+    EXPECT_EQ(grids.Count(), 120);
+    const auto &run = desktop.progressRuns.at(0);
+    std::vector<std::int64_t> sweepBar;
+    for (std::size_t i = 12; i < run.steps.size(); ++i) // behind the steps of the rule
+        if (sweepBar.empty() || run.steps[i].ProgressBar.value != sweepBar.back())
+            sweepBar.push_back(run.steps[i].ProgressBar.value);
+    EXPECT_EQ(sweepBar, (std::vector<std::int64_t>{600, 50, 100}));
 }
 
 TEST_F(EliminationTest, ARuleThatIsOffLeavesTheStagesWhereTheyAre) {
