@@ -32,6 +32,7 @@ QPalette paletteOf(const Shades &s) {
     p.setColor(QPalette::LinkVisited, s.link);
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
         p.setColor(QPalette::Disabled, role, s.muted);
+    p.setColor(QPalette::Disabled, QPalette::Base, s.window); // a closed box does not look open
     p.setColor(QPalette::Disabled, QPalette::Highlight, blend(s.base, s.muted, 0.35));
     p.setColor(QPalette::Disabled, QPalette::HighlightedText, s.text);
     return p;

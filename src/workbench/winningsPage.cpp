@@ -94,7 +94,7 @@ void winningsPage::verifyDraw() {
     float total = 0;
     for (std::int16_t rank = 1; rank <= ranks; ++rank)
         total = addMoney(total, result.price(rank));
-    lblVerWinTot = plainDecimal(total);
+    lblVerWinTot = plainAmount(total);
 }
 
 void winningsPage::clickSubTab(int index) {
@@ -203,7 +203,7 @@ void winningsPage::showCheck(const gameResult &result) {
 void winningsPage::showRanks(const gameResult &result) {
     for (std::int16_t rank = 1; rank <= ranks; ++rank) {
         lblVerComb[place(rank)] = std::to_string(result.nWin(rank));
-        lblVerPrice[place(rank)] = plainDecimal(result.price(rank));
+        lblVerPrice[place(rank)] = plainAmount(result.price(rank));
     }
 }
 

@@ -114,6 +114,14 @@ TEST_F(WinningsPage, TheTotalIsSummedInSinglePrecision) {
     EXPECT_EQ(page.lblVerWinTot, "16777216"); // one and one more are lost, each by itself
 }
 
+TEST_F(WinningsPage, ASumIsShownWithTheSevenDigitsThatItCanVouchFor) {
+    gRapport->Value(6, 4.2F);
+    for (int i = 0; i < 3; ++i)
+        addGrid({1, 2, 3, 44, 12, 13});
+    page.showVerification();
+    EXPECT_EQ(page.lblVerPrice[6], "12.6"); // three times the nearest to 4.2 is 12.599999
+}
+
 TEST_F(WinningsPage, OnAnEmptyBaseTheChangeRoutineDoesNothing) {
     gDbCombs->clear();
     page.followBase();
