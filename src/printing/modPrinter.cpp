@@ -14,6 +14,7 @@
 #include "printing/settingValue.h"
 
 #include <algorithm>
+#include <optional>
 
 namespace boulix::modPrinter {
 
@@ -32,10 +33,21 @@ constexpr double slipWidth = 160;
 constexpr double slipHeight = 120;
 constexpr double sheetMiddle = 105;
 
+/// The printer that the settings name, while nobody has asked yet whether the system has it: a
+/// print system can take seconds to answer, and the start does not wait for it.
+std::optional<std::string> savedPrinter;
 std::string chosenPrinter; // empty: the system's default
 
 bool sameDevice(const std::string &a, const std::string &b) {
     return upperCased(trimmed(a)) == upperCased(trimmed(b));
+}
+
+/// The first printer of the system with the saved name; empty where there is none.
+std::string findSavedPrinter() {
+    for (const std::string &name : printerSystem().printers())
+        if (sameDevice(name, *savedPrinter))
+            return name;
+    return {};
 }
 
 void loadDirection() {
@@ -57,6 +69,8 @@ std::size_t characterCount(const std::string &text) {
 } // namespace
 
 std::string currentPrinter() {
+    if (savedPrinter)
+        currentPrinter(findSavedPrinter());
     if (!chosenPrinter.empty())
         return chosenPrinter;
     const std::string standard = printerSystem().defaultPrinter();
@@ -68,20 +82,14 @@ std::string currentPrinter() {
 
 void currentPrinter(const std::string &deviceName) {
     chosenPrinter = deviceName;
+    savedPrinter.reset();
 }
 
 void loadSettings() {
-    const std::string saved = settings::read(section, printerKey, "no_printer");
+    savedPrinter = settings::read(section, printerKey, "no_printer");
     offset_X = settingNumber(section, offsetXKey, "0.");
     offset_Y = settingNumber(section, offsetYKey, "0.");
     loadDirection();
-    chosenPrinter.clear();
-    const auto printers = printerSystem().printers();
-    const auto found =
-        std::find_if(printers.begin(), printers.end(),
-                     [&saved](const std::string &name) { return sameDevice(name, saved); });
-    if (found != printers.end())
-        chosenPrinter = *found;
 }
 
 void printerDialog() {
@@ -90,7 +98,7 @@ void printerDialog() {
     if (window.result() == 0)
         return;
     if (window.cmbPrinterIndex >= 0)
-        chosenPrinter = window.cmbPrinter.at(static_cast<std::size_t>(window.cmbPrinterIndex));
+        currentPrinter(window.cmbPrinter.at(static_cast<std::size_t>(window.cmbPrinterIndex)));
     settings::write(section, printerKey, currentPrinter());
     settings::write(section, offsetXKey, plainDecimal(offset_X));
     settings::write(section, offsetYKey, plainDecimal(offset_Y));

@@ -93,6 +93,16 @@ TEST_F(ModPrinterTest, ASavedPrinterThatIsGoneLeavesTheDefaultWithoutAMessage) {
     EXPECT_TRUE(desktop.messages.empty());
 }
 
+TEST_F(ModPrinterTest, TheSavedPrinterIsLookedForWhenAPrinterIsFirstWanted) {
+    printers.names = {"Bureau"};
+    settingsAre("imprimante=Grenier\r\n");
+    modPrinter::loadSettings();
+    printers.names = {"Bureau", "Grenier"};
+    EXPECT_EQ(modPrinter::currentPrinter(), "Grenier") << "the start has not asked for printers";
+    printers.names = {"Bureau"};
+    EXPECT_EQ(modPrinter::currentPrinter(), "Grenier") << "once chosen it stays";
+}
+
 TEST_F(ModPrinterTest, WithoutADefaultTheFirstPrinterIsUsed) {
     printers.names = {"Salon", "Bureau"};
     printers.standard.clear();
