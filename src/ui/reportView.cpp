@@ -13,9 +13,7 @@
 #include <QClipboard>
 #include <QHeaderView>
 #include <QKeyEvent>
-#include <QPainter>
 #include <QScrollBar>
-#include <QStyledItemDelegate>
 
 #include <algorithm>
 #include <limits>
@@ -25,7 +23,6 @@ namespace boulix {
 
 namespace {
 
-constexpr int cellMargin = 6; // left and right of a text
 constexpr int rowPadding = 7; // above and below it, together
 
 } // namespace
@@ -312,41 +309,6 @@ void ReportView::updateGeometries() {
     horizontalScrollBar()->setSingleStep(std::max(1, area.width() / 8));
     horizontalScrollBar()->setRange(0, std::max(0, header_->length() - area.width()));
     QAbstractItemView::updateGeometries();
-}
-
-void ReportView::paintEvent(QPaintEvent *event) {
-    QPainter painter(viewport());
-    const int first = rowAt(event->rect().top());
-    if (first < 0)
-        return;
-    const int under = rowAt(event->rect().bottom());
-    const int last = under < 0 ? rowCount() - 1 : under;
-    for (int row = first; row <= last; ++row)
-        paintRow(painter, row);
-}
-
-void ReportView::paintRow(QPainter &painter, int row) {
-    QStyleOptionViewItem option;
-    initViewItemOption(&option);
-    option.rect =
-        QRect(0, visualRect(model_->index(row, 0)).top(), viewport()->width(), rowHeight_);
-    option.showDecorationSelected = true;
-    option.features.setFlag(QStyleOptionViewItem::Alternate, row % 2 == 1);
-    option.state.setFlag(QStyle::State_Selected, selectionModel()->isRowSelected(row));
-    option.state.setFlag(QStyle::State_HasFocus, false);
-    style()->drawPrimitive(QStyle::PE_PanelItemViewRow, &option, &painter, this);
-    if (option.state & QStyle::State_Selected)
-        painter.fillRect(option.rect, option.palette.highlight());
-    for (int column = 0; column < header_->count(); ++column) {
-        const QModelIndex index = model_->index(row, column);
-        option.rect = visualRect(index).adjusted(cellMargin / 2, 0, -cellMargin / 2, 0);
-        itemDelegateForIndex(index)->paint(&painter, option, index);
-    }
-    if (hasFocus() && currentIndex().row() == row) {
-        painter.setPen(QPen(option.palette.text().color(), 1, Qt::DotLine));
-        painter.drawRect(0, visualRect(currentIndex()).top(), viewport()->width() - 1,
-                         rowHeight_ - 1);
-    }
 }
 
 /// The space bar acts on the row, whichever of its columns was clicked before.

@@ -70,12 +70,16 @@ class ReportView : public QAbstractItemView {
     QRegion visualRegionForSelection(const QItemSelection &selection) const override;
 
   private:
+    static constexpr int cellMargin = 6; // left and right of a text
+
     void makeHeader();
     void makeCopyActions();
     void sizeColumns();
     int columnWidth(int column) const;
     void showSorting();
     void paintRow(QPainter &painter, int row);
+    void paintText(QPainter &painter, const QStyleOptionViewItem &option,
+                   const QModelIndex &index) const;
     void toggleCheck(const QModelIndex &index);
     int rowCount() const;
     int rowAt(int y) const;
