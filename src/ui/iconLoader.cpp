@@ -109,7 +109,7 @@ QIcon loadIconIn(const QString &name, const QColor &colour) {
 
 QIcon logoIcon() {
     QIcon icon;
-    for (const int size : {16, 24, 32, 48, 64, 128, 256})
+    for (const int size : {16, 24, 32, 48, 64, 128})
         icon.addPixmap(loadPicture(QStringLiteral("boulix"), {size, size}, 1.0));
     return icon;
 }

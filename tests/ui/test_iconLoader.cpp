@@ -73,7 +73,7 @@ TEST(IconLoader, AnIconIsDrawnForTheDensityOfTheScreen) {
 
 TEST(IconLoader, TheLogoIsThereInTheSizesOfTitleBarsAndDesktops) {
     const QIcon logo = logoIcon();
-    for (const int size : {16, 32, 256})
+    for (const int size : {16, 32, 128})
         EXPECT_EQ(logo.actualSize(QSize(size, size)), QSize(size, size));
     EXPECT_GT(coloursOf(logo, QIcon::Normal).size(), 5U);
 }
