@@ -18,11 +18,13 @@ Application::Application(int &argc, char **argv) : QApplication(argc, argv) {
     if (QLocale::system().language() == QLocale::C)
         QLocale::setDefault(QLocale(QLocale::French, QLocale::France));
     speakFrench();
-    theme::apply(*this);
+    theme::dress();
     setWindowIcon(logoIcon());
 }
 
 bool Application::notify(QObject *receiver, QEvent *event) {
+    if (event->type() == QEvent::ThemeChange && receiver->isWindowType())
+        theme::followDesktop();
     bool handled = true;
     runCommand([&] { handled = QApplication::notify(receiver, event); });
     return handled;

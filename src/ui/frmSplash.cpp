@@ -50,7 +50,6 @@ QLabel *frmSplash::makeLabel(const QString &name, const std::string &text, qreal
     auto *label = new QLabel(linesToQt(text), this);
     label->setObjectName(name);
     label->setTextFormat(Qt::PlainText);
-    label->setPalette(palette()); // a style sheet keeps a label from inheriting it
     QFont font = label->font();
     font.setPointSizeF(font.pointSizeF() * size);
     font.setBold(bold);

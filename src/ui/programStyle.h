@@ -7,8 +7,10 @@
 
 namespace boulix {
 
-/// Qt's own "Fusion" with the program's icons in message boxes and none on dialog buttons,
-/// and with check boxes that can be seen on a dark ground.
+/// Qt's own "Fusion" with flat buttons, toolbars, tabs and headers, all in colours of the palette
+/// in use; with the program's icons in message boxes and none on dialog buttons, and with check
+/// boxes and radio buttons that can be seen on a dark ground. A style and no style sheet: a sheet
+/// doubles the time until the main window is on the screen.
 class ProgramStyle : public QProxyStyle {
     Q_OBJECT
 
@@ -19,8 +21,20 @@ class ProgramStyle : public QProxyStyle {
                        const QWidget *widget) const override;
     int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
                   QStyleHintReturn *returned) const override;
+    int pixelMetric(PixelMetric metric, const QStyleOption *option,
+                    const QWidget *widget) const override;
+    QSize sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &contents,
+                           const QWidget *widget) const override;
     void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
                        const QWidget *widget) const override;
+    void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
+                     const QWidget *widget) const override;
+
+  private:
+    void drawIndicator(PrimitiveElement element, const QStyleOption &option, QPainter &painter,
+                       const QWidget *widget) const;
+    void drawButtonLabel(const QStyleOption &option, QPainter &painter,
+                         const QWidget *widget) const;
 };
 
 } // namespace boulix

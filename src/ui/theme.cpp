@@ -7,8 +7,6 @@
 
 #include <QApplication>
 
-#include <utility>
-
 namespace boulix::theme {
 
 namespace {
@@ -36,62 +34,6 @@ QPalette paletteOf(const Shades &s) {
     p.setColor(QPalette::Disabled, QPalette::Highlight, blend(s.base, s.muted, 0.35));
     p.setColor(QPalette::Disabled, QPalette::HighlightedText, s.text);
     return p;
-}
-
-/// What makes the controls flat. "@name" stands for a colour of the palette.
-constexpr const char16_t *flatSheet = uR"(
-QPushButton { background: @button; border: 1px solid @edge; border-radius: 5px;
-              padding: 5px 14px; color: @text; }
-QPushButton:hover { background: @hover; }
-QPushButton:pressed { background: @pressed; }
-QPushButton:default { background: @highlight; border-color: @highlight; color: white; }
-QPushButton:default:hover { background: @highlightHover; }
-QPushButton:focus { border: 2px solid @text; padding: 4px 13px; }
-QPushButton:disabled { background: @window; border-color: @faint; color: @muted; }
-
-QToolBar { background: @window; border: none; padding: 4px 8px; spacing: 2px; }
-QToolBar QToolButton { border: 1px solid transparent; border-radius: 5px; padding: 4px 9px; }
-QToolBar QToolButton:hover { background: @hover; }
-QToolBar QToolButton:pressed { background: @pressed; }
-QToolBar QToolButton:focus { border-color: @text; }
-
-QTabBar::tab { background: transparent; border: none; border-bottom: 3px solid transparent;
-               padding: 7px 12px 5px 12px; color: @text; }
-QTabBar::tab:hover { background: @hover; }
-QTabBar::tab:selected { border-bottom-color: @accent; }
-QTabBar::tab:selected:focus { background: @pressed; }
-
-QHeaderView { background: @window; }
-QHeaderView::section { background: @window; border: none; border-right: 1px solid @faint;
-                       border-bottom: 1px solid @edge; padding: 4px 6px; }
-QStatusBar { border-top: 1px solid @faint; }
-QStatusBar::item { border: none; }
-)";
-
-QString styleSheetFor(const QPalette &palette) {
-    const QColor window = palette.color(QPalette::Active, QPalette::Window);
-    const QColor text = palette.color(QPalette::Active, QPalette::WindowText);
-    const QColor highlight = palette.color(QPalette::Active, QPalette::Highlight);
-    const bool dark = isDark(palette);
-    const QColor button = dark ? palette.color(QPalette::Active, QPalette::Button) : Qt::white;
-    // The longer name comes before one that it begins with.
-    const std::pair<const char16_t *, QColor> colours[] = {
-        {u"@highlightHover", blend(highlight, text, 0.2)},
-        {u"@highlight", highlight},
-        {u"@hover", blend(window, text, 0.08)},
-        {u"@pressed", blend(window, text, 0.15)},
-        {u"@button", button},
-        {u"@edge", blend(window, text, 0.32)},
-        {u"@faint", blend(window, text, 0.14)},
-        {u"@muted", palette.color(QPalette::Disabled, QPalette::WindowText)},
-        {u"@window", window},
-        {u"@accent", accent},
-        {u"@text", text},
-    };
-    QString sheet = QString::fromUtf16(flatSheet);
-    for (const auto &[name, colour] : colours)
-        sheet.replace(QString::fromUtf16(name), colour.name());
-    return sheet;
 }
 
 } // namespace
@@ -128,14 +70,14 @@ bool isDark(const QPalette &palette) {
     return palette.color(QPalette::Window).lightness() < 128;
 }
 
-void apply(QApplication &application) {
-    apply(application, isDark(QApplication::palette()) ? darkPalette() : lightPalette());
+void dress() {
+    QApplication::setStyle(new ProgramStyle);
+    followDesktop();
 }
 
-void apply(QApplication &application, const QPalette &palette) {
-    QApplication::setStyle(new ProgramStyle);
-    QApplication::setPalette(palette);
-    application.setStyleSheet(styleSheetFor(palette));
+void followDesktop() {
+    QApplication::setPalette(QPalette()); // none of ours: that of the desktop shows
+    QApplication::setPalette(isDark(QApplication::palette()) ? darkPalette() : lightPalette());
 }
 
 } // namespace boulix::theme

@@ -6,8 +6,6 @@
 #include <QColor>
 #include <QPalette>
 
-class QApplication;
-
 namespace boulix::theme {
 
 /// The two colours in which the icons are drawn.
@@ -31,10 +29,9 @@ bool isDark(const QPalette &palette);
 /// `over` laid on `ground` with the strength `part`, 0 to 1; an opaque colour.
 QColor blend(const QColor &ground, const QColor &over, qreal part);
 
-/// Dresses the program: style, and the light or the dark palette, whichever is nearer to the
-/// one that the desktop gave.
-void apply(QApplication &application);
-/// The same with a palette of choice.
-void apply(QApplication &application, const QPalette &palette);
+/// Dresses the program: its style, and its palette as `followDesktop` takes it.
+void dress();
+/// Takes the light or the dark palette, whichever is nearer to the one that the desktop has now.
+void followDesktop();
 
 } // namespace boulix::theme

@@ -121,13 +121,13 @@ TEST_F(WindowsTest, TheSplashShowsItsTextsAndGoes) {
 }
 
 TEST_F(WindowsTest, TheSplashKeepsItsDarkInkOnItsLightGround) {
-    theme::apply(*qApp, theme::darkPalette());
+    QApplication::setPalette(theme::darkPalette());
     gAppInfo->showSplash();
     const QWidget &splash = *visibleWindow(QStringLiteral("frmSplash"));
     const auto &name = control<QLabel>(splash, "lblProductName");
     EXPECT_LT(name.palette().color(QPalette::WindowText).lightness(), 100);
     EXPECT_TRUE(hasColour(const_cast<QWidget &>(splash).grab().toImage(), theme::paper));
-    theme::apply(*qApp, theme::lightPalette());
+    QApplication::setPalette(theme::lightPalette());
 }
 
 TEST_F(WindowsTest, AfterAFailedStartTheSplashCanBeClosed) {

@@ -166,7 +166,7 @@ int main(int argc, char **argv) {
     if (arguments.size() < 2 || !QDir().mkpath(arguments[1]) || !QDir::setCurrent(arguments[1]))
         return 64;
     if (arguments.contains(QStringLiteral("dark")))
-        theme::apply(application, theme::darkPalette());
+        Application::setPalette(theme::darkPalette());
     keepBoards();
     keepDialogs();
     keepIdentity();
