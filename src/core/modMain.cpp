@@ -36,7 +36,8 @@ void logLine(const std::string &text) {
         return;
     if (!gLogFile.is_open())
         fail(Failure::badFileName);
-    gLogFile << toWestern(text) << crlf;
+    // The log is read where the program did not come to its end: no line may wait in a buffer.
+    gLogFile << toWestern(text) << crlf << std::flush;
 }
 
 } // namespace boulix::modMain

@@ -67,6 +67,12 @@ TEST_F(Log, ALineEndsWithCrLfAndStandsInCodePage1252) {
                                              "calcul des Cnk\r\n\r\n");
 }
 
+TEST_F(Log, ALineIsInTheFileAtOnce) {
+    open();
+    modMain::logLine("modMain.Main: Initialisation");
+    EXPECT_EQ(readBytes(file("boulix.log")), "modMain.Main: Initialisation\r\n");
+}
+
 TEST_F(Log, ALineAfterTheLogWasClosedIsAFailure) {
     open();
     modMain::gLogFile.close();
