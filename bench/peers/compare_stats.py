@@ -84,7 +84,7 @@ def main():
     print(f"A list of 18 404 triplets is computed and filled in {listing:.3f} milliseconds.")
     print(f"Slowest ratio {min(ratios):.1f}, geometric mean {mean:.1f}.")
     print(f"{LARGE // QUARTER} times the draws take at most {max(growths):.1f} times as long.")
-    good = min(ratios) >= 1 and mean >= 10 and max(growths) <= 6
+    good = min(ratios) >= 1 and mean >= 10 and max(growths) <= 5
     good = good and analysis < 50 and listing < 50
     return 0 if good else 1
 

@@ -18,11 +18,28 @@ void score(ByNumber &counts, const lotoComb &comb) {
         ++counts[static_cast<std::size_t>(comb.num(i))];
 }
 
-/// What the two routines below come to, from the index of a regular base: how many draws hold all
-/// the chosen numbers and each of the others. With no chosen number that is each draw.
-void countIndexed(ByNumber &counts, const DrawSet &draws, bool withCompl) {
+/// Whether so few draws are in the set that it is quicker to look at each of them than at the 49
+/// rows of the index.
+bool isSparse(const DrawSet &set) {
+    constexpr int fewInAWord = 4;
+    std::size_t draws = 0;
+    for (const DrawWord &word : set)
+        draws += static_cast<std::size_t>(std::popcount(word.bits));
+    return draws < fewInAWord * set.size();
+}
+
+/// The numbers of the draws of the set score; the first of `draws` stands at `first`.
+void countOneByOne(ByNumber &counts, std::span<const dbComb> draws, std::int32_t first,
+                   const DrawSet &set) {
+    forEachDraw(set, [&](std::int32_t i) {
+        score(counts, draws[static_cast<std::size_t>(i - first)].comb());
+    });
+}
+
+/// The same from the rows of the index, with the complementary numbers where `withCompl`.
+void countByRows(ByNumber &counts, const DrawSet &set, bool withCompl) {
     forEachNumber(allNumbers, [&](std::int16_t n) {
-        counts[static_cast<std::size_t>(n)] = gDbCombs->index().count(draws, n, withCompl);
+        counts[static_cast<std::size_t>(n)] = gDbCombs->index().count(set, n, withCompl);
     });
 }
 
@@ -85,7 +102,10 @@ void ComputeFrequency(std::int16_t type, std::uint64_t chosen, std::int16_t with
     ByNumber counts{};
     if (isIndexed(draws)) {
         const DrawSet held = gDbCombs->index().draws(first, last, chosen, withCompl == 1);
-        countIndexed(counts, held, type == 1 && withCompl == 1);
+        if (type != 1 && isSparse(held))
+            countOneByOne(counts, draws, first, held);
+        else
+            countByRows(counts, held, type == 1 && withCompl == 1);
     } else if (type == 1)
         countAll(counts, draws, withCompl);
     else
