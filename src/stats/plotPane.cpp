@@ -23,6 +23,11 @@ void PlotPane::autoRange(bool follows) {
     notify();
 }
 
+void PlotPane::showAll() {
+    fitRange();
+    notify();
+}
+
 void PlotPane::titles(const std::string &x, const std::string &y) {
     xTitle_ = x;
     yTitle_ = y;

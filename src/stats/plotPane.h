@@ -60,6 +60,8 @@ class PlotPane {
     void autoRange(bool follows);
     /// The user has zoomed or dragged: another range is to be seen until the next curve.
     void userRange(const PlotRange &range) { change(range_, range); }
+    /// Shows the whole of the curves, whatever the range followed so far.
+    void showAll();
 
     /// What the axes count.
     const std::string &xTitle() const { return xTitle_; }

@@ -145,6 +145,16 @@ TEST_F(Graph, AManualRangeIsThereAgainWhenTheWindowOpensAgain) {
     EXPECT_EQ(again.plot.xMin(), 5);
 }
 
+TEST_F(Graph, TheWholeCurveCanBeShownInTheManualRangeToo) {
+    frmGraph graph;
+    graph.plot.addCurve({1, 2, 3}, {40, 100, 60});
+    graph.clickManualRange();
+    graph.plot.userRange({1.5F, 2.5F, 50, 60});
+    graph.plot.showAll();
+    EXPECT_EQ(graph.plot.range(), (PlotRange{0, 4, 0, 105}));
+    EXPECT_FALSE(graph.plot.autoRange());
+}
+
 TEST_F(Graph, ALimitTakesTheNumberOfItsTextAndABlankTextChangesNothing) {
     const std::vector<std::pair<std::string, float>> cases = {
         {"25", 25.0F}, {" 2,5 ", 2.5F}, {"-3.25", -3.25F}, {"abc", 0.0F}, {"12abc", 12.0F}};

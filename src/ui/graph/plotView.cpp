@@ -3,14 +3,15 @@
 
 #include "ui/graph/plotView.h"
 
-#include "core/failure.h"
+#include "core/fileAccess.h"
 #include "core/reports.h"
 #include "files/modFileSelector.h"
 #include "stats/plotPane.h"
 #include "ui/qtText.h"
 #include "ui/theme.h"
 
-#include <QMenu>
+#include <QAction>
+#include <QBuffer>
 #include <QMouseEvent>
 #include <QSvgGenerator>
 #include <QToolTip>
@@ -26,6 +27,10 @@ namespace {
 
 constexpr QSize pictureSize{1200, 800};
 
+/// From so many points in sight on a curve is drawn as thin as can be and not filled: with more,
+/// wide pens and fills take seconds, and the points lie too near to one another to show them.
+constexpr double manyPoints = 500;
+
 /// A colour of the pane as it can be seen on the ground of `palette`: the pane's colours are meant
 /// for a light one, a dark one takes them paler.
 QColor shade(Color color, const QPalette &palette) {
@@ -39,8 +44,15 @@ QCPRange drawable(float first, float last) {
     return range.size() > 0 ? range : QCPRange(range.lower - 0.5, range.upper + 0.5);
 }
 
-[[noreturn]] void failToWrite(const QString &name) {
-    fail(Failure::pathAccess, "Erreur d'accès au chemin/fichier : " + fromQt(name));
+/// The grid lies in the background: on a dark ground it is dark.
+QColor gridShade(Color color, const QPalette &palette) {
+    const QColor told(color.red, color.green, color.blue);
+    return theme::isDark(palette) ? theme::blend(palette.color(QPalette::Base), told, 0.35) : told;
+}
+
+/// The picture is made in memory first: Qt does not tell when a disk is full.
+void saveBytes(const std::string &name, const QByteArray &bytes) {
+    replaceFile(name, {bytes.constData(), static_cast<std::size_t>(bytes.size())});
 }
 
 } // namespace
@@ -53,12 +65,12 @@ PlotView::PlotView(PlotPane &pane, QWidget *parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(plot_);
     dress();
+    plot_->setPlottingHint(QCP::phFastPolylines);
     plot_->setInteractions(QCP::iRangeDrag | QCP::iRangeZoom);
-    plot_->setContextMenuPolicy(Qt::CustomContextMenu);
     plot_->installEventFilter(this);
-    connect(plot_, &QWidget::customContextMenuRequested, this, &PlotView::showMenu);
-    connect(plot_, &QCustomPlot::mouseDoubleClick, this,
-            [this] { pane_.autoRange(pane_.autoRange()); });
+    makeMenu();
+    connect(plot_, &QCustomPlot::beforeReplot, this, &PlotView::dressCurves);
+    connect(plot_, &QCustomPlot::mouseDoubleClick, this, [this] { pane_.showAll(); });
     for (QCPAxis *axis : {plot_->xAxis, plot_->yAxis})
         connect(axis, QOverload<const QCPRange &>::of(&QCPAxis::rangeChanged), this,
                 &PlotView::followUser);
@@ -92,6 +104,8 @@ void PlotView::changeEvent(QEvent *event) {
 }
 
 void PlotView::redraw() {
+    if (drawing_)
+        return;
     drawing_ = true;
     plot_->clearPlottables();
     drawAxes();
@@ -110,7 +124,7 @@ void PlotView::drawAxes() {
         axis->setSubTickPen(noPen);
         axis->setTickLabels(shown);
         axis->grid()->setVisible(pane_.showGrid());
-        axis->grid()->setPen(QPen(shade(pane_.gridColor(), palette()), 0, Qt::DotLine));
+        axis->grid()->setPen(QPen(gridShade(pane_.gridColor(), palette()), 0, Qt::DotLine));
         axis->grid()->setZeroLinePen(shown ? axesPen : noPen);
     }
     plot_->xAxis->setLabel(pane_.showAxes() ? toQt(pane_.xTitle()) : QString());
@@ -122,9 +136,6 @@ void PlotView::drawAxes() {
 QCPAbstractPlottable *PlotView::makeBars() {
     auto *bars = new QCPBars(plot_->xAxis, plot_->yAxis);
     bars->setWidth(0.7);
-    QColor fill = shade(pane_.curveColor(), palette());
-    fill.setAlphaF(0.55F);
-    bars->setBrush(fill);
     return bars;
 }
 
@@ -146,7 +157,6 @@ void PlotView::drawCurves() {
         const QVector<double> x(curve.x.begin(), curve.x.end());
         const QVector<double> y(curve.y.begin(), curve.y.end());
         QCPAbstractPlottable *drawn = pane_.graphType() == bars ? makeBars() : makeGraph();
-        drawn->setPen(QPen(shade(pane_.curveColor(), palette()), 1.4));
         if (auto *asBars = qobject_cast<QCPBars *>(drawn))
             asBars->setData(x, y, true);
         else if (auto *asGraph = qobject_cast<QCPGraph *>(drawn))
@@ -154,14 +164,33 @@ void PlotView::drawCurves() {
     }
 }
 
-/// Zooming and dragging move the range of the pane, so that it can be read back.
+/// Pens and fills by what is in sight, before each drawing.
+void PlotView::dressCurves() {
+    const QColor color = shade(pane_.curveColor(), palette());
+    QColor fill = color;
+    fill.setAlphaF(0.55F);
+    const double units = plot_->xAxis->range().size(); // a point stands on each
+    for (int i = 0; i < plot_->plottableCount(); ++i) {
+        QCPAbstractPlottable *drawn = plot_->plottable(i);
+        const bool many = std::min<double>(units, drawn->interface1D()->dataCount()) >= manyPoints;
+        drawn->setPen(QPen(color, many ? 0 : 1.4));
+        drawn->setAntialiased(!many);
+        if (qobject_cast<QCPBars *>(drawn))
+            drawn->setBrush(many ? QBrush(Qt::NoBrush) : QBrush(fill));
+    }
+}
+
+/// Zooming and dragging move the range of the pane, so that it can be read back. The plot shows
+/// it already: nothing is drawn anew.
 void PlotView::followUser() {
     if (drawing_)
         return;
+    drawing_ = true;
     const QCPRange x = plot_->xAxis->range();
     const QCPRange y = plot_->yAxis->range();
     pane_.userRange({static_cast<float>(x.lower), static_cast<float>(x.upper),
                      static_cast<float>(y.lower), static_cast<float>(y.upper)});
+    drawing_ = false;
 }
 
 QString PlotView::valueAt(double x) const {
@@ -189,39 +218,57 @@ bool PlotView::eventFilter(QObject *watched, QEvent *event) {
     return QWidget::eventFilter(watched, event);
 }
 
-void PlotView::showMenu(const QPoint &where) {
-    QMenu menu(this);
-    menu.addAction(QStringLiteral("Enregistrer l'image en &PNG..."), this,
-                   [this] { runCommand([this] { savePng(); }); });
-    menu.addAction(QStringLiteral("Enregistrer l'image en &SVG..."), this,
-                   [this] { runCommand([this] { saveSvg(); }); });
-    menu.addSeparator();
-    menu.addAction(QStringLiteral("&Toute la courbe"), this,
-                   [this] { pane_.autoRange(pane_.autoRange()); });
-    menu.exec(plot_->mapToGlobal(where));
+/// The entries are actions of the plot, so that their keys work without the menu, too.
+void PlotView::makeMenu() {
+    const auto add = [this](const char *name, const QString &text, const QKeySequence &keys,
+                            void (PlotView::*command)()) {
+        auto *entry = new QAction(text, this);
+        entry->setObjectName(QString::fromLatin1(name));
+        entry->setShortcut(keys);
+        connect(entry, &QAction::triggered, this,
+                [this, command] { runCommand([&] { (this->*command)(); }); });
+        plot_->addAction(entry);
+    };
+    plot_->setContextMenuPolicy(Qt::ActionsContextMenu);
+    add("mnuGraphPng", QStringLiteral("Enregistrer l'image en &PNG..."), QKeySequence::Save,
+        &PlotView::savePng);
+    add("mnuGraphSvg", QStringLiteral("Enregistrer l'image en &SVG..."), QKeySequence::SaveAs,
+        &PlotView::saveSvg);
+    add("mnuGraphAll", QStringLiteral("&Toute la courbe"), QKeySequence(Qt::CTRL | Qt::Key_0),
+        &PlotView::showAll);
 }
 
 void PlotView::savePng() {
-    const QString name = toQt(modFileSelector::saveDialog(
-        "Image PNG (*.png)|*.png", "Enregistrement du graphe au format PNG"));
-    if (!name.isEmpty() && !plot_->savePng(name, pictureSize.width(), pictureSize.height()))
-        failToWrite(name);
+    const std::string name = modFileSelector::saveDialog("Image PNG (*.png)|*.png",
+                                                         "Enregistrement du graphe au format PNG");
+    if (name.empty())
+        return;
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    plot_->toPixmap(pictureSize.width(), pictureSize.height()).save(&buffer, "PNG");
+    saveBytes(name, bytes);
 }
 
 void PlotView::saveSvg() {
-    const QString name = toQt(modFileSelector::saveDialog(
-        "Image SVG (*.svg)|*.svg", "Enregistrement du graphe au format SVG"));
-    if (name.isEmpty())
+    const std::string name = modFileSelector::saveDialog("Image SVG (*.svg)|*.svg",
+                                                         "Enregistrement du graphe au format SVG");
+    if (name.empty())
         return;
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
     QSvgGenerator picture;
-    picture.setFileName(name);
+    picture.setOutputDevice(&buffer);
     picture.setSize(pictureSize);
     picture.setViewBox(QRect({0, 0}, pictureSize));
-    QCPPainter painter;
-    if (!painter.begin(&picture))
-        failToWrite(name);
+    QCPPainter painter(&picture);
     plot_->toPainter(&painter, pictureSize.width(), pictureSize.height());
     painter.end();
+    saveBytes(name, bytes);
+}
+
+void PlotView::showAll() {
+    pane_.showAll();
 }
 
 } // namespace boulix

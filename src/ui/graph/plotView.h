@@ -37,12 +37,14 @@ class PlotView : public QWidget {
     void redraw();
     void drawAxes();
     void drawCurves();
+    void dressCurves();
     QCPAbstractPlottable *makeBars();
     QCPAbstractPlottable *makeGraph();
     void followUser();
-    void showMenu(const QPoint &where);
+    void makeMenu();
     void savePng();
     void saveSvg();
+    void showAll();
 
     PlotPane &pane_;
     QCustomPlot *plot_;
