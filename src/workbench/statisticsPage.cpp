@@ -259,10 +259,19 @@ void statisticsPage::ShowStatGraph() {
     std::vector<double> x;
     for (std::size_t i = 1; i <= y.size(); ++i)
         x.push_back(static_cast<double>(i));
-    const std::vector<ReportColumn> &columns = lvwStatsResult.columns();
-    const bool byNumber = type_ <= 5;
-    graph_->plot.titles(byNumber ? "N°" : columns.front().header, columns.back().header);
+    nameAxes();
     graph_->plot.addCurve(std::move(x), std::move(y));
+}
+
+/// The axes are called as the columns of the curve's own type: the list can still be that of
+/// another one.
+void statisticsPage::nameAxes() const {
+    if (type_ <= 5) {
+        graph_->plot.titles("N°", "Fréquence");
+        return;
+    }
+    const std::vector<ReportColumn> columns = modStats::statTable(type_, selector_).columns;
+    graph_->plot.titles(columns.front().header, columns.back().header);
 }
 
 void statisticsPage::ShowSelectedCount() {

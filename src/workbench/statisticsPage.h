@@ -98,6 +98,7 @@ class statisticsPage {
     void compute();
     void setGraphButton(bool down);
     void closeGraph();
+    void nameAxes() const;
     void showLabels();
     void showRangeDates();
     void leaveBox(const std::string &text, upDown &control, std::string &box);

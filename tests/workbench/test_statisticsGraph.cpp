@@ -39,6 +39,30 @@ TEST_F(StatisticsPage, TheGraphFollowsEachNewResult) {
     EXPECT_EQ(curvePoints(), 0U) << "an empty list";
 }
 
+TEST_F(StatisticsPage, TheAxesAreNamedAsTheColumnsOfTheTypeOfTheMoment) {
+    startWithFourDraws();
+    pressGraph(true);
+    const std::vector<Texts> titles = {{"N°", "Fréquence"},       {"N°", "Fréquence"},
+                                       {"N°", "Fréquence"},       {"N°", "Fréquence"},
+                                       {"N°", "Fréquence"},       {"Somme", "Fréquence"},
+                                       {"N°", "Dernière Sortie"}, {"N°", "Consécutifs"},
+                                       {"N°", "Max sans sortir"}, {"N°", "Max consécutifs"}};
+    for (std::int16_t type = 1; type <= 10; ++type) {
+        const Numbers chosen = {1, 2, 3, 4};
+        compute(type, {chosen.begin(), chosen.begin() + modStats::statTypes(type).nNumbers});
+        EXPECT_EQ((Texts{graph->plot.xTitle(), graph->plot.yTitle()}),
+                  titles[static_cast<std::size_t>(type - 1)])
+            << type;
+    }
+    compute(13, {14});
+    EXPECT_EQ((Texts{graph->plot.xTitle(), graph->plot.yTitle()}), (Texts{"Période", "Absences"}));
+    page.pickType(7);
+    pressGraph(false);
+    pressGraph(true);
+    EXPECT_EQ((Texts{graph->plot.xTitle(), graph->plot.yTitle()}),
+              (Texts{"N°", "Dernière Sortie"}));
+}
+
 TEST_F(StatisticsPage, SumsDrawAll322PointsWhateverTheChoice) {
     startWithFourDraws();
     pressGraph(true);
