@@ -12,6 +12,9 @@
 
 namespace boulix::bench_support {
 
+/// Tells how long an action takes, in seconds.
+using Stopwatch = std::function<double(const std::function<void()> &action)>;
+
 /// How long `action` takes, in seconds.
 inline double secondsOf(const std::function<void()> &action) {
     const auto start = std::chrono::steady_clock::now();
@@ -38,7 +41,7 @@ inline double medianOf(std::vector<double> values) {
 /// The time of the benchmark is that of one action, measured by `timeOf`.
 inline void measureRatio(benchmark::State &state, double goal, const std::function<void()> &action,
                          const std::function<void()> &reference,
-                         double (*timeOf)(const std::function<void()> &) = secondsOf) {
+                         const Stopwatch &timeOf = secondsOf) {
     std::vector<double> actionTimes;
     std::vector<double> referenceTimes;
     for (auto _ : state) {

@@ -18,7 +18,8 @@ void progressBar::range(std::int64_t first, std::int64_t last) {
 }
 
 bool frmProgress::cancelled() const {
-    return numericPrefix(cancelTag) == 1;
+    // The tag is mostly untouched, and some loops ask for each few steps of many millions.
+    return cancelTag != "0" && numericPrefix(cancelTag) == 1;
 }
 
 ProgressShown::ProgressShown(const std::string &caption, const std::string &info) {

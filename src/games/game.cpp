@@ -4,6 +4,7 @@
 #include "games/game.h"
 
 #include "core/failure.h"
+#include "core/largePages.h"
 
 #include <algorithm>
 
@@ -40,6 +41,13 @@ void game::Remove(const std::vector<std::int64_t> &ascending) {
                  grids_.end());
     if (removed < static_cast<std::int64_t>(ascending.size()))
         fail(Failure::subscriptOutOfRange);
+}
+
+void game::reserve(std::size_t more) {
+    if (grids_.size() + more <= grids_.capacity())
+        return;
+    grids_.reserve(grids_.size() + more);
+    wantLargePages(grids_.data() + grids_.size(), more * sizeof(GridRef));
 }
 
 void game::clear() {

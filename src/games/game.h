@@ -124,6 +124,8 @@ class game {
     std::size_t place(std::int64_t index) const {
         return static_cast<std::size_t>(checkedIndex(index, 1, Count()) - 1);
     }
+    /// Makes room for so many grids more.
+    void reserve(std::size_t more);
     void sweep(const std::vector<std::uint8_t> &flags, progressBar &bar);
 
     std::vector<GridRef> grids_;

@@ -12,6 +12,8 @@
 #include "games/gameDef.h"
 
 #include <algorithm>
+#include <array>
+#include <optional>
 
 namespace boulix {
 
@@ -31,20 +33,64 @@ std::int16_t sumOf(const gameComb::Numbers &six) {
     return static_cast<std::int16_t>(six[0] + six[1] + six[2] + six[3] + six[4] + six[5]);
 }
 
-/// Calls `use` for every six of the numbers, in lexicographic order of their ranks, until it says
-/// false. True when it never did.
-template <class Use>
-bool forEachSix(const Numbers &s, const Use &use) {
-    const std::size_t n = s.size();
-    for (std::size_t a = 0; a + 5 < n; ++a)
-        for (std::size_t b = a + 1; b + 4 < n; ++b)
-            for (std::size_t c = b + 1; c + 3 < n; ++c)
-                for (std::size_t d = c + 1; d + 2 < n; ++d)
-                    for (std::size_t e = d + 1; e + 1 < n; ++e)
-                        for (std::size_t f = e + 1; f < n; ++f)
-                            if (!use({s[a], s[b], s[c], s[d], s[e], s[f]}))
-                                return false;
-    return true;
+/// Every six of the numbers, in lexicographic order of their ranks.
+class Sixes {
+  public:
+    /// There have to be six numbers at least.
+    explicit Sixes(const Numbers &numbers)
+        : numbers_(numbers), ascending_(std::is_sorted(numbers.begin(), numbers.end())) {
+        take(0);
+    }
+    /// Writes the next `count` of them; there have to be as many.
+    void write(gameComb *to, std::size_t count);
+
+  private:
+    void take(std::size_t from);
+    void advance();
+
+    const Numbers &numbers_;
+    bool ascending_;
+    std::array<std::size_t, gameComb::size> ranks_{0, 1, 2, 3, 4, 5};
+    gameComb::Numbers six_{}; // the numbers at these ranks, but for the last one
+    std::int16_t five_ = 0;   // their sum
+};
+
+void Sixes::write(gameComb *to, std::size_t count) {
+    while (count > 0) {
+        // The last of the six runs through the rest of the selection.
+        std::size_t &last = ranks_.back();
+        const std::size_t run = std::min(count, numbers_.size() - last);
+        const gameComb::Numbers s = six_;
+        const std::int16_t *sixth = &numbers_[last];
+        for (std::size_t i = 0; i < run; ++i)
+            to[i] = gameComb({s[0], s[1], s[2], s[3], s[4], sixth[i]},
+                             static_cast<std::int16_t>(five_ + sixth[i]));
+        if (!ascending_)
+            std::for_each(to, to + run, [](gameComb &grid) { grid.sort(); });
+        to += run;
+        count -= run;
+        last += run;
+        if (last == numbers_.size())
+            advance();
+    }
+}
+
+/// Takes the numbers at the ranks from place `from` on.
+void Sixes::take(std::size_t from) {
+    for (std::size_t p = from; p + 1 < ranks_.size(); ++p)
+        six_[p] = numbers_[ranks_[p]];
+    five_ = static_cast<std::int16_t>(six_[0] + six_[1] + six_[2] + six_[3] + six_[4]);
+}
+
+/// Moves the last place that can still move, and puts those behind it next to it.
+void Sixes::advance() {
+    std::size_t p = ranks_.size() - 1;
+    while (p > 0 && ranks_[p] >= numbers_.size() - ranks_.size() + p)
+        --p;
+    ++ranks_[p];
+    for (std::size_t q = p + 1; q < ranks_.size(); ++q)
+        ranks_[q] = ranks_[q - 1] + 1;
+    take(p);
 }
 
 /// Six different numbers of the selection, in the order in which chance gives them. The position
@@ -118,30 +164,35 @@ bool game::ComputeDefinedGame(const gameDef &def, const selector &sel) {
 
 bool game::ComputeManualGame(const selector &sel) {
     const Numbers selection = selectedNumbers(sel);
-    const bool ascending = std::is_sorted(selection.begin(), selection.end());
-    const std::int32_t grids = modMaths::cnkTable[6][selection.size()];
+    auto left = static_cast<std::uint32_t>(modMaths::cnkTable[6][selection.size()]);
     ProgressShown progress("Calcul de jeu Manuel", "Calcul en cours en cours...");
-    progress->ProgressBar.range(1, modMaths::maxOf(grids + 1, 2));
-    grids_.reserve(grids_.size() + static_cast<std::size_t>(grids));
+    progress->ProgressBar.range(1, modMaths::maxOf<std::int64_t>(left + 1, 2));
+    reserve(left);
 
-    const bool completed = forEachSix(selection, [&](gameComb::Numbers six) {
-        if (!ascending)
-            std::sort(six.begin(), six.end());
-        grids_.emplace_back(six, sumOf(six));
-        if (Count() % 50 != 0)
-            return true;
+    std::optional<Sixes> sixes;
+    if (left > 0)
+        sixes.emplace(selection);
+    while (left > 0) {
+        constexpr std::int32_t rhythm = 50;
+        const auto untilTurn = static_cast<std::uint32_t>(rhythm - Count() % rhythm);
+        const GridStore::Stretch made = gridStore.make(std::min(left, untilTurn));
+        sixes->write(made.grids, made.count);
+        for (std::uint32_t i = 0; i < made.count; ++i)
+            grids_.push_back(GridRef::adopt(made.first + i));
+        left -= made.count;
+        if (Count() % rhythm != 0)
+            continue;
         desktop().runEvents();
-        if (progress->cancelled())
+        if (progress->cancelled()) {
+            progress.unload();
+            clear();
             return false;
+        }
         progress->ProgressBar.value = Count();
-        return true;
-    });
+    }
     progress.unload();
-    if (!completed)
-        clear();
-    else
-        desktop().runEvents();
-    return completed;
+    desktop().runEvents();
+    return true;
 }
 
 bool game::ComputeRandomGame(std::int32_t count, const selector &sel) {

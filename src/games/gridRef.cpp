@@ -4,31 +4,37 @@
 #include "games/gridRef.h"
 
 #include <algorithm>
+#include <new>
 
 namespace boulix {
 
 GridStore &gridStore = *new GridStore;
 
+void GridStore::Free::operator()(gameComb *grids) const {
+    ::operator delete (grids, std::align_val_t{largePage});
+}
+
 void GridStore::openChunk() {
-    auto chunk = std::make_unique<Chunk>();
-    current_ = chunk.get();
+    void *memory = ::operator new (largePage, std::align_val_t{largePage});
+    wantLargePages(memory, largePage);
+    Chunk chunk{decltype(Chunk::grids)(static_cast<gameComb *>(memory))};
     if (free_.empty()) {
-        currentNumber_ = static_cast<std::uint32_t>(chunks_.size());
         chunks_.push_back(std::move(chunk));
+        current_ = static_cast<std::uint32_t>(chunks_.size() - 1);
     } else {
-        currentNumber_ = free_.back();
+        current_ = free_.back();
         free_.pop_back();
-        chunks_[currentNumber_] = std::move(chunk);
+        chunks_[current_] = std::move(chunk);
     }
 }
 
 void GridStore::closeChunk(std::uint32_t number) {
-    if (chunks_[number].get() == current_) {
-        current_->used = 0; // nobody refers to its grids: it starts afresh
+    if (number == current_) {
+        chunks_[number].used = 0; // nobody refers to its grids: it starts afresh
         return;
     }
     free_.push_back(number);
-    chunks_[number].reset();
+    chunks_[number].grids.reset();
 }
 
 std::size_t GridRef::stretch(const GridRef *first, std::size_t count) {

@@ -3,9 +3,10 @@
 
 #pragma once
 
+#include "core/largePages.h"
 #include "games/gameComb.h"
 
-#include <array>
+#include <algorithm>
 #include <cstdint>
 #include <memory>
 #include <utility>
@@ -20,13 +21,23 @@ class GridStore {
     using Place = std::uint32_t;
     static constexpr Place nowhere = 0xFFFFFFFF;
 
-    /// The place of a new grid with these contents, referred to once.
-    Place make(const gameComb::Numbers &numbers, std::int16_t sum) {
-        if (current_ == nullptr || current_->used == chunkSize)
+    /// Grids that lie one behind the other, each referred to once.
+    struct Stretch {
+        Place first;
+        gameComb *grids;
+        std::uint32_t count;
+    };
+    /// New grids for the caller to fill: `count` of them, or as many as fit behind one another,
+    /// at least one.
+    Stretch make(std::uint32_t count) {
+        if (current_ == noChunk || chunks_[current_].used == chunkSize)
             openChunk();
-        current_->grids[current_->used] = gameComb(numbers, sum);
-        ++current_->references;
-        return currentNumber_ * chunkSize + current_->used++;
+        Chunk &chunk = chunks_[current_];
+        count = std::min(count, chunkSize - chunk.used);
+        const Stretch made{current_ * chunkSize + chunk.used, &chunk.grids[chunk.used], count};
+        chunk.used += count;
+        chunk.references += count;
+        return made;
     }
     gameComb &at(Place place) { return chunkOf(place).grids[place % chunkSize]; }
     void refer(Place place) { ++chunkOf(place).references; }
@@ -34,27 +45,30 @@ class GridStore {
         if (--chunkOf(place).references == 0)
             closeChunk(place / chunkSize);
     }
-    /// How many grids can lie one behind the other in memory, from the one at `place` on.
+    /// How many grids from `place` on lie one behind the other in memory.
     static std::size_t room(Place place) { return chunkSize - place % chunkSize; }
     /// How many chunks are held.
     std::size_t chunkCount() const { return chunks_.size() - free_.size(); }
 
   private:
-    static constexpr std::uint32_t chunkSize = 4096;
+    static constexpr std::uint32_t chunkSize = largePage / sizeof(gameComb);
+    static constexpr std::uint32_t noChunk = nowhere / chunkSize;
+    struct Free {
+        void operator()(gameComb *grids) const;
+    };
     struct Chunk {
-        std::array<gameComb, chunkSize> grids;
+        std::unique_ptr<gameComb[], Free> grids;
         std::uint32_t used = 0;
         std::uint32_t references = 0;
     };
 
-    Chunk &chunkOf(Place place) { return *chunks_[place / chunkSize]; }
+    Chunk &chunkOf(Place place) { return chunks_[place / chunkSize]; }
     void openChunk();
     void closeChunk(std::uint32_t number);
 
-    std::vector<std::unique_ptr<Chunk>> chunks_;
+    std::vector<Chunk> chunks_;
     std::vector<std::uint32_t> free_; // numbers of chunks that went
-    Chunk *current_ = nullptr;        // the one that new grids go into
-    std::uint32_t currentNumber_ = 0;
+    std::uint32_t current_ = noChunk; // the one that new grids go into
 };
 
 /// The one store. It is never destroyed: games that live to the end of the process refer to it.
@@ -66,15 +80,24 @@ extern GridStore &gridStore;
 /// A game can hold fourteen million grids. An object of its own for each, with its count of users
 /// and a pointer to it, would cost some 50 bytes; a grid in a chunk costs its 14 bytes, and each
 /// place that refers to it 4. The count of users is kept for the chunk, not for the grid: a chunk
-/// of 4096 grids stays while any of them is referred to.
+/// stays while any of its grids is referred to.
 class GridRef {
   public:
     /// Refers to nothing.
     GridRef() = default;
     /// A new grid with these contents.
     explicit GridRef(const gameComb &contents) : GridRef(contents.numbers(), contents.sum()) {}
-    GridRef(const gameComb::Numbers &numbers, std::int16_t sum)
-        : place_(gridStore.make(numbers, sum)) {}
+    GridRef(const gameComb::Numbers &numbers, std::int16_t sum) {
+        const GridStore::Stretch made = gridStore.make(1);
+        *made.grids = gameComb(numbers, sum);
+        place_ = made.first;
+    }
+    /// Takes over a reference that the store has counted when it made the grid.
+    static GridRef adopt(GridStore::Place place) {
+        GridRef ref;
+        ref.place_ = place;
+        return ref;
+    }
     GridRef(const GridRef &other) : place_(other.place_) {
         if (place_ != GridStore::nowhere)
             gridStore.refer(place_);

@@ -51,13 +51,37 @@ TEST(GridRefTest, AMovedReferenceRefersToNothingAnyMore) {
 TEST(GridRefTest, TheLastReferenceGivesTheMemoryBack) {
     const std::size_t before = gridStore.chunkCount();
     std::vector<GridRef> grids;
-    for (int i = 0; i < 100000; ++i)
+    for (int i = 0; i < 600000; ++i)
         grids.emplace_back(gridOf(i % 100));
-    EXPECT_GE(gridStore.chunkCount(), before + 20);
-    const std::vector<GridRef> shared = grids;
+    EXPECT_GE(gridStore.chunkCount(), before + 4);
+    std::vector<GridRef> shared = grids;
     grids.clear();
-    EXPECT_GE(gridStore.chunkCount(), before + 20);
+    EXPECT_GE(gridStore.chunkCount(), before + 4);
     EXPECT_EQ(shared.back()->num(1), 99);
+    shared.clear();
+    EXPECT_LE(gridStore.chunkCount(), before + 1);
+}
+
+TEST(GridRefTest, GridsMadeTogetherLieBehindOneAnotherAndAreEachReferredToOnce) {
+    const std::size_t before = gridStore.chunkCount();
+    std::vector<GridRef> grids;
+    std::uint32_t left = 500000;
+    while (left > 0) { // more than one chunk holds
+        const GridStore::Stretch made = gridStore.make(left);
+        ASSERT_GE(made.count, 1U);
+        ASSERT_LE(made.count, left);
+        for (std::uint32_t i = 0; i < made.count; ++i) {
+            made.grids[i] = gridOf(static_cast<int>(left % 30000));
+            grids.push_back(GridRef::adopt(made.first + i));
+            ASSERT_EQ(&*grids.back(), made.grids + i);
+            --left;
+        }
+    }
+    EXPECT_GE(gridStore.chunkCount(), before + 3);
+    for (std::size_t i = 0; i < grids.size(); ++i)
+        ASSERT_EQ(grids[i]->num(1), static_cast<int>((500000 - i) % 30000));
+    grids.clear();
+    EXPECT_LE(gridStore.chunkCount(), before + 1);
 }
 
 TEST(GridRefTest, ManyGamesComingAndGoingNeverTakeEachOthersPlace) {
