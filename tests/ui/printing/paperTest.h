@@ -26,6 +26,10 @@ class PaperTest : public BoulixTest {
         return PrintedPages(queue == "Salon" ? server().lastOutput() : server().lastDocument());
     }
 
+    /// Expects everything within the margins of a text report, lines from the top of each page
+    /// on, and every page but the last filled to its bottom.
+    static void expectFullSheets(const PrintedPages &pages);
+
     QtPrinterSystem system;
 };
 

@@ -191,21 +191,23 @@ TEST_F(ReportOnPaperTest, TheWholeHistoryOfTheOperatorComesOutDrawByDraw) {
     modPrinter::currentPrinter("Salon");
     gDbCombs->PrintDB();
     const auto pages = lastPrinted("Salon");
-    const Lines texts = textsOf(pages);
-    ASSERT_EQ(texts.size(), 4U + (4858 + 2) / 3);
-    std::int64_t position = 0;
-    for (std::size_t i = 4; i < texts.size(); ++i)
-        for (std::size_t entry = texts[i].find(") "); entry != std::string::npos;
-             entry = texts[i].find(" --- ", entry) == std::string::npos
-                         ? std::string::npos
-                         : texts[i].find(" --- ", entry) + 9) {
-            ++position;
-            const dbComb &draw = gDbCombs->Item(position);
-            EXPECT_EQ(texts[i].substr(entry - 4, 17),
-                      zeroPadded(position, 4) + ") " + longDate(draw.day()) + " ");
-        }
-    EXPECT_EQ(position, 4858);
-    EXPECT_GT(pages.count(), 15);
+    const std::string stars(40, '*');
+    Lines expected = {stars, std::string(17, ' ') + "boulix", stars,
+                      "Base de données imprimée le 15/11/2026"};
+    for (std::int64_t position = 1; position <= 4858; ++position) {
+        const dbComb &draw = gDbCombs->Item(position);
+        const bool first = position % 3 == 1;
+        std::string &line = first ? expected.emplace_back() : expected.back();
+        line += (first ? "" : " --- ") + zeroPadded(position, 4) + ") " + longDate(draw.day()) +
+                " - (" + std::to_string(draw.id()) + ") ";
+        for (int i = 1; i <= lotoComb::size; ++i)
+            line += zeroPadded(draw.comb().num(i), 2) + " ";
+        line += "(" + zeroPadded(draw.comb().compl_(), 2) + ")";
+    }
+    EXPECT_EQ(textsOf(pages), expected);
+    for (std::size_t i = 0; i < pages.lines().size(); ++i)
+        ASSERT_NEAR(pages.lines()[i].points, i < 4 ? 10 : 8, 0.2) << pages.lines()[i].text;
+    expectFullSheets(pages);
 }
 
 } // namespace
