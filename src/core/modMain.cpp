@@ -4,12 +4,30 @@
 #include "core/modMain.h"
 
 #include "core/failure.h"
+#include "core/fileAccess.h"
 #include "core/platform.h"
+#include "core/reports.h"
 #include "core/text.h"
 
 #include <algorithm>
+#include <cerrno>
 
 namespace boulix::modMain {
+
+namespace {
+
+std::string logName() {
+    return platform().applicationFolder() + pathSeparator + "boulix.log";
+}
+
+/// A log that cannot be written is no reason to stop, but nobody may wait for its lines.
+void giveUpLog(int error) {
+    gDebug = false;
+    gLogFile = std::ofstream();
+    runCommand([error] { failForFile(error, logName()); });
+}
+
+} // namespace
 
 std::vector<std::string> parseCommandLine(std::int16_t maxArgs) {
     std::vector<std::string> tokens(1);
@@ -31,13 +49,21 @@ std::vector<std::string> parseCommandLine(std::int16_t maxArgs) {
     return tokens;
 }
 
+void openLog() {
+    gDebug = true;
+    gLogFile = std::ofstream(logName(), std::ios::binary | std::ios::trunc);
+    if (!gLogFile)
+        failForFile(errno, logName());
+}
+
 void logLine(const std::string &text) {
     if (!gDebug)
         return;
     if (!gLogFile.is_open())
         fail(Failure::badFileName);
     // The log is read where the program did not come to its end: no line may wait in a buffer.
-    gLogFile << toWestern(text) << crlf << std::flush;
+    if (!(gLogFile << toWestern(text) << crlf << std::flush))
+        giveUpLog(errno);
 }
 
 } // namespace boulix::modMain

@@ -24,8 +24,12 @@ void Main();
 /// Element 0 stays empty, tokens start at 1, and element 1 always exists.
 std::vector<std::string> parseCommandLine(std::int16_t maxArgs = 1);
 
+/// Starts the log, `boulix.log` in the application folder, and sets `gDebug`. What the system
+/// refuses fails.
+void openLog();
 /// Writes a line to the log while `gDebug` is true. A log that was closed by then fails with
-/// `Failure::badFileName`.
+/// `Failure::badFileName`. A line that cannot be written is shown as a failure once; the program
+/// goes on without its log.
 void logLine(const std::string &text);
 
 } // namespace boulix::modMain

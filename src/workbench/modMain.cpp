@@ -5,7 +5,6 @@
 
 #include "core/appInfo.h"
 #include "core/desktop.h"
-#include "core/fileAccess.h"
 #include "core/globals.h"
 #include "core/modMaths.h"
 #include "core/platform.h"
@@ -15,8 +14,6 @@
 #include "workbench/frmMain.h"
 #include "workbench/startUpSteps.h"
 
-#include <cerrno>
-
 namespace boulix::modMain {
 
 namespace {
@@ -25,14 +22,6 @@ constexpr const char *disclaimer =
     "Attention!!! Ce logiciel constitue une aide au jeu mais ne saurait en aucun cas garantir les "
     "gains. L'auteur décline toute responsabilité en cas de pertes d'argent qui auraient pu être "
     "dues à l'utilisation de ce produit. En revanche, en cas de gros gains, pensez à lui!!!";
-
-void openLog() {
-    const std::string name = platform().applicationFolder() + pathSeparator + "boulix.log";
-    gDebug = true;
-    gLogFile = std::ofstream(name, std::ios::binary | std::ios::trunc);
-    if (!gLogFile)
-        failForFile(errno, name);
-}
 
 void initialise() {
     for (const StartUpStep &step : startUpSteps()) {

@@ -5,6 +5,8 @@
 
 #include "support/boulixTest.h"
 
+#include <filesystem>
+
 namespace boulix {
 namespace {
 
@@ -77,6 +79,18 @@ TEST_F(Log, ALineAfterTheLogWasClosedIsAFailure) {
     open();
     modMain::gLogFile.close();
     EXPECT_EQ(failureNumber([] { modMain::logLine("trop tard"); }), 52);
+}
+
+TEST_F(Log, OnAFullDiskIsToldOnceAndTheProgramGoesOnWithoutIt) {
+    std::filesystem::create_symlink("/dev/full", file("boulix.log"));
+    modMain::openLog();
+    for (int line = 0; line < 3; ++line)
+        modMain::logLine("modMain.Main: une ligne qui ne trouve pas de place");
+    EXPECT_EQ(desktop.messages,
+              (std::vector<ShownBox>{{"Disque plein : " + file("boulix.log"), Icon::critical,
+                                      "Boulix Erreur système N° 61"}}));
+    EXPECT_FALSE(modMain::gDebug);
+    EXPECT_FALSE(modMain::gLogFile.is_open());
 }
 
 } // namespace

@@ -104,6 +104,24 @@ TEST_F(StartUp, TheLogTellsEveryStepInOrder) {
     EXPECT_EQ(logLines(), wholeLog);
 }
 
+TEST_F(StartUp, TheSplashIsRepaintedBeforeAStepAndBehindTheLastTwo) {
+    std::vector<std::string> turns;
+    std::vector<bool> done;
+    desktop.onEvents = [&] {
+        const std::vector<std::string> lines = logLines();
+        turns.push_back(lines.at(lines.size() - 2)); // behind the last line end there is nothing
+        if (turns.size() == 1)
+            done.push_back(modMaths::cnkTable[6][49] != 0);
+        else if (turns.size() == 10)
+            done.push_back(gEliminators->Count() != 0);
+        else if (turns.size() == 11)
+            done.push_back(gPronostics->Count() != 0);
+    };
+    start("-debug");
+    EXPECT_EQ(turns, std::vector<std::string>(wholeLog.begin() + 1, wholeLog.begin() + 12));
+    EXPECT_EQ(done, (std::vector<bool>{false, true, true}));
+}
+
 TEST_F(StartUp, TwoRunsLeaveOnlyTheLogOfTheSecond) {
     start("-debug");
     modMain::gLogFile.close();
@@ -210,6 +228,17 @@ TEST_F(StartUp, ALogThatCannotBeOpenedIsAFailureOfTheWholeStart) {
     std::filesystem::create_directory(file("boulix.log"));
     EXPECT_EQ(failureNumber([this] { start("-debug"); }), 75);
     EXPECT_FALSE(desktop.mainWindowShown);
+}
+
+TEST_F(StartUp, ALogWithoutRoomOnItsDiskIsToldAndTheStartGoesOn) {
+    std::filesystem::create_symlink("/dev/full", file("boulix.log"));
+    start("-debug");
+    ASSERT_FALSE(desktop.messages.empty());
+    EXPECT_EQ(desktop.messages[0], (ShownBox{"Disque plein : " + file("boulix.log"), Icon::critical,
+                                             "Boulix Erreur système N° 61"}));
+    EXPECT_TRUE(desktop.mainWindowShown);
+    desktop.answerYes();
+    EXPECT_TRUE(mainWindow->queryClose());
 }
 
 TEST_F(StartUp, WithoutADefaultPrizeTableOneMessageIsShownAndTheProgramStartsWithZeros) {
