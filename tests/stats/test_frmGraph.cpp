@@ -45,6 +45,15 @@ TEST_F(Graph, TheTypeIsReadWithoutRegardToCaseAndAnUnknownOneLeavesItAsItWas) {
     }
 }
 
+TEST_F(Graph, AnUnknownTypeLeavesTheOneThatWasThere) {
+    modStats::graphType = 2;
+    for (const char *value : {"xyz", "", "Croix2", "Barre"}) {
+        writeBytes(file("boulix.ini"), std::string("[graphique]\r\ntype=") + value + "\r\n");
+        modStats::LoadGraphParam();
+        EXPECT_EQ(modStats::graphType, 2) << value;
+    }
+}
+
 TEST_F(Graph, OnlyOffInAnyCaseTurnsGridAndAxesOff) {
     const std::vector<std::pair<std::string, bool>> cases = {
         {"off", false}, {"OFF", false}, {"Off", false}, {"on", true}, {"no", true}, {"0", true}};

@@ -309,6 +309,17 @@ TEST_F(StatReport, APlaceWhereNoFileCanBeIsAFailure) {
     EXPECT_NE(exportTo(folder()), 0) << "a folder";
 }
 
+TEST_F(StatReport, AFileThatMayNotBeWrittenIsAFailureThatNamesItAndKeepsIt) {
+    computeAll(1, 0);
+    writeBytes(name(), "before");
+    std::filesystem::permissions(name(), std::filesystem::perms::owner_read);
+    desktop.answerSave(name());
+    const auto failure = failureOf([&] { modStats::ExportStats(1, 0, 1, 4, chooser); });
+    ASSERT_TRUE(failure);
+    EXPECT_NE(failure->description().find(name()), std::string::npos) << failure->description();
+    EXPECT_EQ(readBytes(name()), "before");
+}
+
 TEST_F(StatReport, AFullOrReadOnlyDiskIsAFailureAndTheResultStays) {
     SmallDisk disk(4096);
     if (!disk.mounted())

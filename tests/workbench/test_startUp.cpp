@@ -12,6 +12,9 @@
 #include "eliminators/eliminators.h"
 #include "forecasts/pronostics.h"
 #include "games/modGame.h"
+#include "printing/gridConfig.h"
+#include "printing/modPrinter.h"
+#include "stats/graphSettings.h"
 #include "support/boulixTest.h"
 #include "winnings/rapport.h"
 #include "workbench/frmMain.h"
@@ -201,6 +204,32 @@ TEST_F(StartUp, TheCarriedSystemsAndTheEliminationRulesAreThere) {
     EXPECT_EQ(gEliminators->Count(), 8);
     EXPECT_EQ(mainWindow->elimination.chkEliminator(7), gEliminators->Item(8).label());
     EXPECT_EQ(mainWindow->games.design.cmbGameType().size(), 9U);
+}
+
+TEST_F(StartUp, UnknownWordsInEverySettingLeaveTheDefaultsAndOneMessage) {
+    testing_support::writeBytes(
+        file("boulix.ini"),
+        "[graphique]\r\ntype=mot\r\nvisualisation_grille=mot\r\nvisualisation_axes=mot\r\n"
+        "[impression]\r\nimprimante=mot\r\noffset_X=mot\r\noffset_Y=mot\r\nDirection=mot\r\n"
+        "[grille]\r\nunite_monnaie=mot\r\nprix_grille=mot\r\n");
+    gAppInfo->init("", "", "", 2003);
+    gRapport->save(file("defrapp.rap"));
+    resetGlobals();
+    start("");
+    EXPECT_TRUE(desktop.mainWindowShown);
+    EXPECT_EQ(modStats::graphType, 0);
+    EXPECT_TRUE(modStats::graphShowGrid);
+    EXPECT_TRUE(modStats::graphShowAxes);
+    EXPECT_EQ(modPrinter::currentPrinter(), "Bureau");
+    EXPECT_EQ(modPrinter::offset_X, 0);
+    EXPECT_EQ(modPrinter::offset_Y, 0);
+    EXPECT_EQ(modPrinter::direction, 2);
+    EXPECT_EQ(gGridConfig->monneyUnit(), "mot");
+    EXPECT_EQ(gGridConfig->price(), 0);
+    EXPECT_EQ(desktop.messages,
+              (std::vector<ShownBox>{{"Erreur de syntaxe dans le fichier boulix.ini:\r\nMOT "
+                                      "valeur innatendue!!!",
+                                      Icon::information, "boulix: Erreur N° 2302"}}));
 }
 
 TEST_F(StartUp, AUserSystemWhoseFileIsGoneIsToldAndTheStartGoesOn) {

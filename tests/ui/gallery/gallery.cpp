@@ -173,6 +173,7 @@ int main(int argc, char **argv) {
     keepHelp();
     keepList();
     keepMainWindow();
+    keepStatistics();
     keepForecasts();
     keepGames();
     keepPrintWindows();

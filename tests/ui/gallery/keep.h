@@ -13,3 +13,4 @@ void keepForecasts();
 void keepGames();
 void keepGraph();
 void keepPrintWindows();
+void keepStatistics();
