@@ -73,7 +73,7 @@ std::string currentPrinter() {
         currentPrinter(findSavedPrinter());
     if (!chosenPrinter.empty())
         return chosenPrinter;
-    const std::string standard = printerSystem().defaultPrinter();
+    std::string standard = printerSystem().defaultPrinter();
     if (!standard.empty())
         return standard;
     const auto printers = printerSystem().printers();

@@ -38,8 +38,9 @@ double gridLeft(std::int16_t position) {
 
 /// The top left corner of the box of `number`: a column for each ten, a row for each last digit.
 Corner boxCorner(std::int16_t position, std::int16_t number) {
-    return {number / 10 * columnWidth + gridLeft(position) + 0.5,
-            number % 10 * rowHeight + gridTop + 1};
+    const int column = number / 10;
+    const int row = number % 10;
+    return {column * columnWidth + gridLeft(position) + 0.5, row * rowHeight + gridTop + 1};
 }
 
 orientedPoint placed(Corner corner, Placement placement) {

@@ -23,11 +23,11 @@
 namespace boulix {
 
 GameTab::GameTab(gamePage &page, winningsPage &winnings, QWidget *parent)
-    : QWidget(parent), page_(page), lvwGame(new ReportView(page.lvwGame, this)),
+    : QWidget(parent), page_(page), tbarGame(makeToolbar()),
+      lvwGame(new ReportView(page.lvwGame, this)),
       chkUpdateList(new QCheckBox(QStringLiteral("&Mise à jour de la liste"), this)),
       TabGame(new QTabWidget(this)), design_(new GameDesignPanel(page.design, this)),
       winnings_(new WinningsPanels(winnings, this)) {
-    makeToolbar();
     makePrintMenu();
     auto *below = new QHBoxLayout;
     below->setContentsMargins(theme::margin, 0, theme::margin, theme::margin);
@@ -39,8 +39,6 @@ GameTab::GameTab(gamePage &page, winningsPage &winnings, QWidget *parent)
     column->setSpacing(theme::gap);
     column->addWidget(tbarGame);
     column->addLayout(below, 1);
-    setTabOrder(tbarGame, lvwGame);
-    setTabOrder(lvwGame, chkUpdateList);
     page_.view(this);
     setFocusProxy(lvwGame);
     refresh();
@@ -50,7 +48,7 @@ GameTab::~GameTab() {
     page_.view(nullptr);
 }
 
-void GameTab::makeToolbar() {
+QToolBar *GameTab::makeToolbar() {
     const std::array<const char *, 6> captions = {"C&harger",  "Eff&acer", "S&upprimer",
                                                   "E&liminer", "&Sauver",  "&Imprimer"};
     const std::array<const char *, 6> icons = {"open",      "clear", "delete",
@@ -63,7 +61,7 @@ void GameTab::makeToolbar() {
         buttons.push_back({QString::fromUtf8(captions[i]),
                            QString::fromUtf8(gamePage::tbarGame[i].toolTip),
                            QString::fromUtf8(icons[i]), shortcuts[i]});
-    tbarGame = boulix::makeToolbar(
+    return boulix::makeToolbar(
         QStringLiteral("tbarGame"), buttons, [this](int button) { page_.clickButton(button); },
         this);
 }

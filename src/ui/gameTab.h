@@ -33,14 +33,14 @@ class GameTab : public QWidget, public gameView {
     void runGameList(frmGameList &window) override;
 
   private:
-    void makeToolbar();
+    QToolBar *makeToolbar();
     void makePrintMenu();
     QWidget *makeGame();
     QWidget *makeSides(winningsPage &winnings);
     void addSide(QWidget *side, const QString &caption);
 
     gamePage &page_;
-    QToolBar *tbarGame = nullptr;
+    QToolBar *tbarGame; // made first: Tab goes through the controls in the order of their making
     ReportView *lvwGame;
     QCheckBox *chkUpdateList;
     QTabWidget *TabGame;

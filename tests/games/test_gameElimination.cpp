@@ -189,7 +189,7 @@ bool plainCondemns(int rule, const eliminator &settings, const gameComb &grid) {
     bool listed = false;
     for (int i = 1; i <= 6; ++i) {
         even += grid.num(i) % 2 == 0;
-        listed = listed || settings.eliminNbr(grid.num(i)) != 0;
+        listed = listed || (rule == 8 && settings.eliminNbr(grid.num(i)) != 0);
         run = i < 6 && grid.num(i + 1) - grid.num(i) == 1 ? run + 1 : 0;
         longest = std::max(longest, run);
     }
@@ -214,7 +214,7 @@ TEST_F(EliminationTest, TheRightGridsGoAndTheOthersKeepTheirOrder) {
         for (int i = 0; i < count; ++i) {
             Numbers six{};
             for (std::int16_t &n : six)
-                n = static_cast<std::int16_t>(1 + below(turn % 4 == 0 ? 70 : 49));
+                n = static_cast<std::int16_t>(turn % 4 == 0 ? below(77) - 7 : 1 + below(49));
             if (turn % 3 != 0)
                 std::sort(six.begin(), six.end());
             gameComb grid(six);
@@ -232,7 +232,7 @@ TEST_F(EliminationTest, TheRightGridsGoAndTheOthersKeepTheirOrder) {
             settings.Value(static_cast<std::int16_t>(sums ? below(320) - 20 : below(10) - 2));
         }
         if (turn % 4 == 0)
-            gEliminators->Item(8).status(0); // numbers above 49 have no flag
+            gEliminators->Item(8).status(0); // numbers outside 1 to 49 have no flag
         std::vector<int> listed;
         for (int n = 1; n <= 49; ++n)
             if (below(12) == 0)

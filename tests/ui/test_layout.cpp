@@ -13,6 +13,7 @@
 #include "ui/progressWindow.h"
 #include "ui/support/clipping.h"
 #include "ui/support/screenTest.h"
+#include "ui/support/tabOrder.h"
 #include "workbench/frmMain.h"
 
 #include <QLabel>
@@ -27,6 +28,7 @@ namespace {
 
 using testing_support::clippedControls;
 using testing_support::LayoutTest;
+using testing_support::tabOrder;
 
 class FrameLayoutTest : public LayoutTest {};
 
@@ -94,20 +96,6 @@ TEST(Clipping, ATextWithoutRoomAndAControlThatSticksOutAreFound) {
 
 INSTANTIATE_TEST_SUITE_P(Fonts, FrameLayoutTest, LayoutTest::fontSizes(), LayoutTest::nameOf);
 
-/// The names of the controls that Tab reaches, from the first one round to it again.
-std::vector<std::string> tabOrder(QWidget &window) {
-    std::vector<std::string> names;
-    const QWidget *control = &window;
-    do {
-        control = control->nextInFocusChain();
-        const bool stops = control->focusPolicy() & Qt::TabFocus && control->isVisibleTo(&window) &&
-                           !control->focusProxy();
-        if (stops && control->window() == &window)
-            names.push_back(control->objectName().toStdString());
-    } while (control != &window);
-    return names;
-}
-
 class TabOrderTest : public ScreenTest {};
 
 TEST_F(TabOrderTest, TheNumberDialogGoesFromTheBoardToItsButtons) {
@@ -120,10 +108,7 @@ TEST_F(TabOrderTest, TheNumberDialogGoesFromTheBoardToItsButtons) {
 
 TEST_F(TabOrderTest, TheDatabasePageGoesFromTheToolbarOverTheListToTheBoard) {
     MainWindow &window = start();
-    std::vector<std::string> named;
-    for (const std::string &name : tabOrder(window))
-        if (!name.empty())
-            named.push_back(name);
+    const std::vector<std::string> named = tabOrder(window);
     EXPECT_THAT(named, ::testing::IsSupersetOf({"lvwDBcomb", "grdDB"}));
     const auto at = [&](const char *name) { return std::find(named.begin(), named.end(), name); };
     EXPECT_LT(at("lvwDBcomb"), at("grdDB"));

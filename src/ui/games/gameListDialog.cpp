@@ -18,14 +18,14 @@
 namespace boulix {
 
 GameListDialog::GameListDialog(frmGameList &rules, QWidget *parent)
-    : QDialog(parent), rules_(rules), lvwGame(new ReportView(rules.lvwGame, this)) {
+    : QDialog(parent), rules_(rules), tbar(makeToolbar()),
+      lvwGame(new ReportView(rules.lvwGame, this)) {
     setObjectName(QStringLiteral("frmGameList"));
     setWindowTitle(QString::fromUtf8(frmGameList::caption));
     lvwGame->setObjectName(QStringLiteral("lvwGame"));
     lvwGame->setAccessibleName(QStringLiteral("Jeux créés"));
     lvwGame->keepAllColumnsVisible();
     connect(lvwGame, &ReportView::rowClicked, this, [this](qint64 row) { rules_.clickRow(row); });
-    makeToolbar();
 
     auto *below = new QVBoxLayout;
     below->setContentsMargins(theme::margin, theme::gap, theme::margin, theme::margin);
@@ -37,7 +37,6 @@ GameListDialog::GameListDialog(frmGameList &rules, QWidget *parent)
     column->setSpacing(0);
     column->addWidget(tbar);
     column->addLayout(below, 1);
-    setTabOrder(tbar, lvwGame);
     lvwGame->setFocus();
     rules_.view(this);
     refresh();
@@ -47,7 +46,7 @@ GameListDialog::~GameListDialog() {
     rules_.view(nullptr);
 }
 
-void GameListDialog::makeToolbar() {
+QToolBar *GameListDialog::makeToolbar() {
     const std::array<const char *, 6> captions = {"&Supprimer", "&Renommer", "&Exporter",
                                                   "&Imprimer",  "&Voir",     "&Quitter"};
     const std::array<const char *, 6> icons = {"delete", "rename", "export",
@@ -61,7 +60,7 @@ void GameListDialog::makeToolbar() {
         buttons.push_back({QString::fromUtf8(captions[i]),
                            QString::fromUtf8(frmGameList::tbar[i].toolTip),
                            QString::fromUtf8(icons[i]), shortcuts[i]});
-    tbar = boulix::makeToolbar(
+    return boulix::makeToolbar(
         QStringLiteral("tbar"), buttons, [this](int button) { rules_.clickButton(button); }, this);
 }
 

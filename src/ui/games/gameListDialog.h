@@ -28,11 +28,11 @@ class GameListDialog : public QDialog, public gameListView {
     void runDisplayGame(frmDisplayGame &window) override;
 
   private:
-    void makeToolbar();
+    QToolBar *makeToolbar();
     QWidget *makeDescription();
 
     frmGameList &rules_;
-    QToolBar *tbar = nullptr;
+    QToolBar *tbar; // made first: Tab goes through the controls in the order of their making
     ReportView *lvwGame;
     std::array<QLabel *, 4> values_{};
 };

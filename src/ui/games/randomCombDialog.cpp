@@ -17,16 +17,19 @@
 namespace boulix {
 
 RandomCombDialog::RandomCombDialog(frmRandomComb &rules, QWidget *parent)
-    : QDialog(parent), rules_(rules), lvWComb(new ReportView(rules.lvWComb, this)) {
+    : QDialog(parent), rules_(rules) {
     setObjectName(QStringLiteral("frmRandomComb"));
     setWindowTitle(QString::fromUtf8(frmRandomComb::caption));
+    // Tab goes through the controls in the order of their making.
+    QHBoxLayout *countRow = makeCountRow();
+    auto *lvWComb = new ReportView(rules.lvWComb, this);
     lvWComb->setObjectName(QStringLiteral("lvWComb"));
     lvWComb->setAccessibleName(QStringLiteral("Combinaisons aléatoires"));
     lvWComb->keepAllColumnsVisible();
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(theme::margin, theme::margin, theme::margin, theme::margin);
     column->setSpacing(theme::margin);
-    column->addLayout(makeCountRow());
+    column->addLayout(countRow);
     column->addWidget(lvWComb, 1);
     column->addLayout(makeButtons());
 }

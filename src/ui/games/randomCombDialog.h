@@ -9,7 +9,6 @@ class QHBoxLayout;
 
 namespace boulix {
 
-class ReportView;
 class frmRandomComb;
 
 /// The dialog that makes random draws to test a game on.
@@ -27,7 +26,6 @@ class RandomCombDialog : public QDialog {
     QHBoxLayout *makeButtons();
 
     frmRandomComb &rules_;
-    ReportView *lvWComb;
 };
 
 } // namespace boulix

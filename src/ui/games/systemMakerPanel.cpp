@@ -23,6 +23,7 @@ SystemMakerPanel::SystemMakerPanel(gameDesign &design, QWidget *parent)
     : QWidget(parent), design_(design),
       lblnGameDefComb(makeResult(QStringLiteral("lblnGameDefComb"))),
       lblCost(makeResult(QStringLiteral("lblCost"))) {
+    QWidget *toolbar = makeToolbar(); // before the boxes in the tab order, too
     auto *grid = new QGridLayout;
     grid->setHorizontalSpacing(theme::gap);
     grid->setVerticalSpacing(theme::gap / 2);
@@ -47,7 +48,7 @@ SystemMakerPanel::SystemMakerPanel(gameDesign &design, QWidget *parent)
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(theme::gap);
-    column->addWidget(makeToolbar());
+    column->addWidget(toolbar);
     column->addLayout(row);
 }
 
