@@ -36,8 +36,10 @@ void NumberBall::paintEvent(QPaintEvent *) {
     const qreal side = std::min(width(), height()) - 2;
     const QRectF all(1, 1, side, side);
     const QRectF ball = all.adjusted(4, 4, -4, -4);
-    painter.setPen(QPen(ground_.darker(150), 1));
-    painter.setBrush(ground_);
+    // Without a number there is nothing to colour: a ring keeps its place.
+    painter.setPen(
+        QPen(text().isEmpty() ? palette().color(QPalette::Mid) : ground_.darker(150), 1));
+    painter.setBrush(text().isEmpty() ? QBrush(Qt::NoBrush) : QBrush(ground_));
     painter.drawEllipse(ball);
 
     painter.setBrush(Qt::NoBrush);

@@ -131,8 +131,6 @@ void winningsPage::clickPerfo(int index) {
     if (busy_)
         return;
     runCommand([&] {
-        const Busy running(busy_, pgrScanDB);
-        refresh();
         if (index == checkBase)
             checkOverBase();
         else if (index == checkRandomDraws)
@@ -142,6 +140,8 @@ void winningsPage::clickPerfo(int index) {
 }
 
 void winningsPage::checkOverBase() {
+    const Busy running(busy_, pgrScanDB);
+    refresh();
     const gameResult result = gDbCombs->VerifyGame(*currentGame, pgrScanDB, wins_, winsCount_);
     datesKnown_ = true;
     showCheck(result);
@@ -153,6 +153,8 @@ void winningsPage::checkOverRandomDraws() {
         view_->runRandomComb(dialog);
     if (randomDraws.empty())
         return;
+    const Busy running(busy_, pgrScanDB);
+    refresh();
     const auto count = narrow16(std::ssize(randomDraws));
     showCheck(currentGame->verifyCombList(randomDraws, count, pgrScanDB));
     datesKnown_ = false; // random draws have no dates

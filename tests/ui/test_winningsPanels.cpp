@@ -4,6 +4,7 @@
 #include "gameScreenTest.h"
 #include "games/frmRandomComb.h"
 #include "support/lottery.h"
+#include "ui/numberBall.h"
 #include "winnings/rapport.h"
 
 #include <QLabel>
@@ -97,8 +98,9 @@ TEST_F(WinningsPanelsTest, TheBaseIsCheckedAndTheDatesOfTheWinsAreListed) {
 TEST_F(WinningsPanelsTest, RandomDrawsHaveNoDates) {
     goToSide(winningsPage::performance);
     press("tbarPerfo_1");
-    robot.in("frmRandomComb", [](QWidget &dialog) {
+    robot.in("frmRandomComb", [this](QWidget &dialog) {
         EXPECT_EQ(dialog.windowTitle().toStdString(), "Générateur de combinaisons aléatoires");
+        EXPECT_TRUE(window.isEnabled()) << "no check runs yet";
         QTest::keyClicks(&control<QLineEdit>(dialog, "txtnComb"), QStringLiteral("12"));
         click(control<QPushButton>(dialog, "cmdCompute"));
         EXPECT_EQ(control<ReportView>(dialog, "lvWComb").model()->rowCount(), 12);
@@ -117,6 +119,20 @@ TEST_F(WinningsPanelsTest, ACancelledRandomRunLeavesTheResultsAndTheDates) {
     press("tbarPerfo_2");
     EXPECT_EQ(label("lblVerComb_2"), "5");
     EXPECT_TRUE(dates(2).isEnabled());
+}
+
+TEST_F(WinningsPanelsTest, LongResultsLeaveThePanelAsWideAsItIs) {
+    const auto narrowest = [this] {
+        for (int level = 0; level < 3; ++level)
+            QApplication::processEvents(); // a new size travels outwards, strip by strip
+        return control<QWidget>(window, "frameGameTab_1").minimumSizeHint().width();
+    };
+    goToSide(winningsPage::performance);
+    const int width = narrowest();
+    mainWindow->winnings.lblVerComb.fill("13983816");
+    mainWindow->winnings.lblVerPrice.fill("-148028.9");
+    mainWindow->winnings.leaveVerifComb(""); // shows what is set
+    EXPECT_EQ(narrowest(), width);
 }
 
 TEST_F(WinningsPanelsTest, APrizeTypedIsPaidOnTheNextSubTab) {
@@ -144,6 +160,21 @@ TEST_F(WinningsPanelsTest, APrizeTableIsSavedLoadedAndKeptAsDefault) {
     EXPECT_EQ(price(0).text().toStdString(), "9");
     gRapport->loadDefFile();
     EXPECT_EQ(gRapport->Value(0), 8.0F);
+}
+
+TEST(NumberBall, WithoutANumberIsAnEmptyRing) {
+    QWidget page;
+    NumberBall ball(&page);
+    ball.resize(ball.sizeHint());
+    const QColor ground(1, 2, 3);
+    const auto middle = [&] {
+        const QImage picture = page.grab().toImage();
+        return picture.pixelColor(ball.geometry().center() + QPoint(0, ball.height() / 4));
+    };
+    ball.show(QString(), ground, false);
+    EXPECT_EQ(middle(), page.palette().color(QPalette::Window));
+    ball.show(QStringLiteral("7"), ground, false);
+    EXPECT_EQ(middle(), ground);
 }
 
 } // namespace

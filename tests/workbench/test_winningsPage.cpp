@@ -448,6 +448,21 @@ TEST_F(WinningsPage, RandomDrawsFromTheDialogAreChecked) {
     EXPECT_EQ(page.pgrScanDB.value, 1);
 }
 
+TEST_F(WinningsPage, TheQuestionForRandomDrawsIsNoCheckYet) {
+    onRandomComb = [this](frmRandomComb &) {
+        EXPECT_FALSE(page.busy());
+        randomDraws.assign(16, lotoCombOf({1, 2, 3, 4, 5, 6, 11}));
+    };
+    bool checked = false;
+    desktop.onEvents = [&] {
+        checked = true;
+        EXPECT_TRUE(page.busy());
+    };
+    page.clickPerfo(winningsPage::checkRandomDraws);
+    EXPECT_TRUE(checked);
+    EXPECT_FALSE(page.busy());
+}
+
 TEST_F(WinningsPage, OnAnEmptyBaseTheCheckGivesZeros) {
     page.clickSubTab(winningsPage::performance);
     gDbCombs->clear();

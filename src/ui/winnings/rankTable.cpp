@@ -20,7 +20,11 @@ QGridLayout *make(QWidget &table, const QStringList &headers) {
     // Rows without a button or a box are still apart enough to be followed with the eye.
     for (int row = 1; row <= winningsPage::ranks; ++row)
         grid->setRowMinimumHeight(row, table.fontMetrics().height() * 3 / 2);
+    // Room for the largest count and the longest usual amount, so that no result moves the table.
+    const int numbers = table.fontMetrics().horizontalAdvance(QStringLiteral("0000000.00"));
     for (int column = 0; column < headers.size(); ++column) {
+        if (column > 0)
+            grid->setColumnMinimumWidth(column, numbers);
         auto *header = new QLabel(headers[column], &table);
         header->setForegroundRole(QPalette::PlaceholderText);
         header->setAlignment((column == 0 ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
