@@ -43,6 +43,7 @@ DrawAnalysisTab::DrawAnalysisTab(drawAnalysisPage &page, QWidget *parent)
     lists->addWidget(lvwTirStat, 1);
     column->addLayout(lists, 1);
 
+    setBallOrder();
     page_.view(this);
     setFocusProxy(lstStatTirType);
     refresh();
@@ -94,6 +95,19 @@ QWidget *DrawAnalysisTab::makeBalls() {
     layout->addWidget(lblNumTir[0]);
     layout->addStretch();
     return row;
+}
+
+/// The Tab key goes from the draw over its numbers to the lists; the complementary is the last of
+/// the numbers, as on the screen.
+void DrawAnalysisTab::setBallOrder() {
+    QWidget *before = draw_->focusProxy();
+    for (std::size_t k = 1; k <= lblNumTir.size(); ++k) {
+        QWidget *ball = lblNumTir[k % lblNumTir.size()];
+        setTabOrder(before, ball);
+        before = ball;
+    }
+    setTabOrder(before, lstStatTirType);
+    setTabOrder(lstStatTirType, lvwTirStat);
 }
 
 void DrawAnalysisTab::fillAnalyses() {

@@ -36,6 +36,7 @@ class DrawAnalysisTab : public QWidget, public drawAnalysisView {
     QWidget *makeDrawRow();
     QWidget *makeBalls();
     void fillAnalyses();
+    void setBallOrder();
     void tellAnalyses();
 
     drawAnalysisPage &page_;

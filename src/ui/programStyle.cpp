@@ -120,7 +120,8 @@ void ProgramStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *o
         return;
     case PE_IndicatorCheckBox:
     case PE_IndicatorRadioButton:
-        return drawIndicator(element, *option, *painter, widget);
+    case PE_FrameLineEdit:
+        return drawOutlined(element, *option, *painter, widget);
     default:
         break;
     }
@@ -147,22 +148,22 @@ void ProgramStyle::drawControl(ControlElement element, const QStyleOption *optio
 }
 
 /// The outline of "Fusion" is darker than a dark ground.
-void ProgramStyle::drawIndicator(PrimitiveElement element, const QStyleOption &option,
-                                 QPainter &painter, const QWidget *widget) const {
+void ProgramStyle::drawOutlined(PrimitiveElement element, const QStyleOption &option,
+                                QPainter &painter, const QWidget *widget) const {
     QProxyStyle::drawPrimitive(element, &option, &painter, widget);
-    if (!theme::isDark(option.palette))
-        return;
+    const bool isField = element == PE_FrameLineEdit;
+    if (!theme::isDark(option.palette) || (isField && option.state & State_HasFocus))
+        return; // a field with the focus has a ring
     painter.save();
     painter.setPen(theme::blend(option.palette.color(QPalette::Base),
-                                option.palette.color(QPalette::Text), 0.6));
+                                option.palette.color(QPalette::Text), isField ? 0.35 : 0.6));
     painter.setBrush(Qt::NoBrush);
     const QRectF outline = QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5);
-    if (element == PE_IndicatorRadioButton) {
-        painter.setRenderHint(QPainter::Antialiasing);
+    painter.setRenderHint(QPainter::Antialiasing, element != PE_IndicatorCheckBox);
+    if (element == PE_IndicatorRadioButton)
         painter.drawEllipse(outline);
-    } else {
-        painter.drawRect(outline);
-    }
+    else
+        painter.drawRoundedRect(outline, isField ? 2 : 0, isField ? 2 : 0);
     painter.restore();
 }
 

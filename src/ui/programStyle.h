@@ -31,8 +31,8 @@ class ProgramStyle : public QProxyStyle {
                      const QWidget *widget) const override;
 
   private:
-    void drawIndicator(PrimitiveElement element, const QStyleOption &option, QPainter &painter,
-                       const QWidget *widget) const;
+    void drawOutlined(PrimitiveElement element, const QStyleOption &option, QPainter &painter,
+                      const QWidget *widget) const;
     void drawButtonLabel(const QStyleOption &option, QPainter &painter,
                          const QWidget *widget) const;
 };

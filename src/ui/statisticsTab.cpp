@@ -30,13 +30,13 @@ StatisticsTab::StatisticsTab(statisticsPage &page, QWidget *parent)
     : QWidget(parent), page_(page), types_(new QMenu(this)), lblStatType(new QLabel(this)),
       lblStatDesc(new QLabel(this)), lvwStatsResult(new ReportView(page.lvwStatsResult, this)),
       lblStatsStatus(new QLabel(this)),
-      grdStatNbrSelector(new NumberBoardView(page.grdStatNbrSelector, this)),
       frameStatsRange(new QGroupBox(QStringLiteral("Plage d'étude"), this)),
       start_(new UpDownField(page.updStatStart, QStringLiteral("txtStatStart"),
                              QStringLiteral("updStatStart"), frameStatsRange)),
       end_(new UpDownField(page.updStatEnd, QStringLiteral("txtStatEnd"),
                            QStringLiteral("updStatEnd"), frameStatsRange)),
-      lblStatStartDate(new QLabel(frameStatsRange)), lblStatEndDate(new QLabel(frameStatsRange)) {
+      lblStatStartDate(new QLabel(frameStatsRange)), lblStatEndDate(new QLabel(frameStatsRange)),
+      grdStatNbrSelector(new NumberBoardView(page.grdStatNbrSelector, this)) {
     lblStatType->setObjectName(QStringLiteral("lblStatType"));
     lblStatDesc->setObjectName(QStringLiteral("lblStatDesc"));
     lblStatDesc->setToolTip(QStringLiteral("Descriptif du type de statistique actif"));
@@ -180,9 +180,6 @@ void StatisticsTab::layOut() {
     column->addWidget(tbarStats);
     column->addLayout(below, 1);
     setTabOrder(tbarStats, lvwStatsResult);
-    setTabOrder(lvwStatsResult, start_);
-    setTabOrder(start_, end_);
-    setTabOrder(end_, grdStatNbrSelector);
 }
 
 std::vector<std::int64_t> StatisticsTab::selectedRows() const {

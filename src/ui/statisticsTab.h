@@ -44,18 +44,19 @@ class StatisticsTab : public QWidget, public statisticsView {
     QAction *button(int number) const;
 
     statisticsPage &page_;
+    // In the order in which the Tab key goes over them.
     QToolBar *tbarStats = nullptr;
     QMenu *types_;
     QLabel *lblStatType;
     QLabel *lblStatDesc;
     ReportView *lvwStatsResult;
     QLabel *lblStatsStatus;
-    NumberBoardView *grdStatNbrSelector;
     QGroupBox *frameStatsRange;
     UpDownField *start_;
     UpDownField *end_;
     QLabel *lblStatStartDate;
     QLabel *lblStatEndDate;
+    NumberBoardView *grdStatNbrSelector;
     QPointer<GraphWindow> graph_;
 };
 

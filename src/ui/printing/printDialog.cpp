@@ -78,6 +78,9 @@ QWidget *PrintDialog::makeDirectionFrame() {
         auto *option = new QRadioButton(captions[i], frame);
         option->setObjectName(QStringLiteral("optPrintDir_%1").arg(i));
         optPrintDir->addButton(option, static_cast<int>(i));
+        // The Tab key stops at the one that is on only.
+        const bool isOn = static_cast<int>(i) == rules_.optPrintDir;
+        option->setFocusPolicy(isOn ? Qt::StrongFocus : Qt::ClickFocus);
         layout->addWidget(option);
     }
     optPrintDir->button(rules_.optPrintDir)->setChecked(true);
@@ -96,6 +99,8 @@ QWidget *PrintDialog::makeOffsetFrame() {
     lblOffsetY->setBuddy(txtOffsetY);
     layout->addRow(lblOffsetX, txtOffsetX);
     layout->addRow(lblOffsetY, txtOffsetY);
+    setTabOrder(optPrintDir->button(rules_.optPrintDir), txtOffsetX);
+    setTabOrder(txtOffsetX, txtOffsetY);
     return frame;
 }
 

@@ -23,6 +23,7 @@ namespace {
 void keepPages() {
     modStats::InitStatTypes();
     modStats::InitTripletTable();
+    mainWindow->load();
     MainWindow window(*mainWindow);
     mainWindow->clickTab(2);
     keep(window, QStringLiteral("statisticsTab-empty"));

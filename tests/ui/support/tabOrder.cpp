@@ -6,6 +6,9 @@
 #include <QAction>
 #include <QToolButton>
 #include <QWidget>
+#include <QtTest/QTest>
+
+#include <gtest/gtest.h>
 
 namespace boulix::testing_support {
 
@@ -29,6 +32,21 @@ std::vector<std::string> tabOrder(const QWidget &window) {
         if (stops && control->window() == &window)
             names.push_back(nameOf(*control));
     } while (control != &window);
+    return names;
+}
+
+std::vector<std::string> tabPresses(QWidget &window, QWidget &first) {
+    constexpr int enough = 50;
+    window.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+    first.setFocus();
+    std::vector<std::string> names;
+    for (int presses = 0; presses < enough; ++presses) {
+        names.push_back(nameOf(*window.focusWidget()));
+        QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
+        if (window.focusWidget() == &first)
+            break;
+    }
     return names;
 }
 

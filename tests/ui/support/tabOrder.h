@@ -14,4 +14,8 @@ namespace boulix::testing_support {
 /// toolbar has the name of its action.
 std::vector<std::string> tabOrder(const QWidget &window);
 
+/// The same by pressing the key in a window on the screen, from the control `first` on: what the
+/// user gets where controls hand their focus on.
+std::vector<std::string> tabPresses(QWidget &window, QWidget &first);
+
 } // namespace boulix::testing_support
