@@ -151,15 +151,30 @@ TEST_F(PronosticsFileTest, TheBlocksAreAsLongAsTheHeaderSays) {
 }
 
 TEST_F(PronosticsFileTest, AHeaderThatCannotBeReadLeavesTheSetEmptyAfterItsMessage) {
-    set.init();
-    std::string head = headBlock();
-    head.replace(head.find("#VERSION#"), 9, "#version#");
-    EXPECT_EQ(load(head + padded("1") + ruleBlock(5)), 0);
-    EXPECT_EQ(set.Count(), 0);
-    ASSERT_EQ(desktop.messages.size(), 1U);
-    EXPECT_EQ(desktop.messages[0], (ShownBox{"Lecture de l'en-tête du fichier impossible!\r\n"
-                                             "Clef version est manquant.",
-                                             Icon::critical, "boulix: Erreur N° 3001"}));
+    const struct {
+        const char *key, *missing;
+    } rows[] = {
+        {"#SOFTWARE#", "Clef Nom du logiciel"},
+        {"#VERSION#", "Clef version"},
+        {"#TYPE#", "Clef type de fichier"},
+        {"#CREATEDATE#", "Clef date de création"},
+        {"#MODIFYDATE#", "Clef date de modification"},
+        {"#DATALEN#", "Clef longueur du champ de données"},
+    };
+    for (const auto &row : rows) {
+        set.clear();
+        set.init();
+        desktop.messages.clear();
+        std::string head = headBlock();
+        head[head.find(row.key) + 1] = '?';
+        EXPECT_EQ(load(head + padded("1") + ruleBlock(5)), 0) << row.key;
+        EXPECT_EQ(set.Count(), 0) << row.key;
+        ASSERT_EQ(desktop.messages.size(), 1U) << row.key;
+        EXPECT_EQ(desktop.messages[0],
+                  (ShownBox{std::string("Lecture de l'en-tête du fichier impossible!\r\n") +
+                                row.missing + " est manquant.",
+                            Icon::critical, "boulix: Erreur N° 3001"}));
+    }
 }
 
 TEST_F(PronosticsFileTest, ADataLengthOfZeroOrBelowLeavesNothingToRead) {
@@ -192,12 +207,26 @@ TEST_F(PronosticsFileTest, ACountThatLiesReadsNoMoreThanThereIs) {
 }
 
 TEST_F(PronosticsFileTest, ARuleThatCannotBeUnderstoodIsReportedAndLeftOut) {
-    EXPECT_EQ(
-        load(headBlock() + padded("3") + ruleBlock(5) + padded("#LABEL#x#N#1") + ruleBlock(6)), 0);
-    ASSERT_EQ(set.Count(), 2);
-    EXPECT_EQ(set.Item(1).n(), 5);
-    EXPECT_EQ(set.Item(2).n(), 6);
-    expectMessages({"boulix: Erreur N° 4553"});
+    const struct {
+        const char *key, *missing;
+    } rows[] = {
+        {"#LABEL#", "Clef Nom du logiciel"},   {"#N#", "Clef N"},       {"#P#", "Clef P"},
+        {"#POINTS#", "Clef points attribués"}, {"#TYPE#", "Clef Type"},
+    };
+    for (const auto &row : rows) {
+        desktop.messages.clear();
+        std::string broken = ruleBlock(1);
+        broken[broken.find(row.key) + 1] = '?';
+        EXPECT_EQ(load(headBlock() + padded("3") + ruleBlock(5) + broken + ruleBlock(6)), 0);
+        ASSERT_EQ(set.Count(), 2) << row.key;
+        EXPECT_EQ(set.Item(1).n(), 5);
+        EXPECT_EQ(set.Item(2).n(), 6);
+        ASSERT_EQ(desktop.messages.size(), 1U) << row.key;
+        EXPECT_EQ(desktop.messages[0],
+                  (ShownBox{std::string("Lecture du fichier de pronostique impossible!\r\n") +
+                                row.missing + " est manquant.",
+                            Icon::critical, "boulix: Erreur N° 4553"}));
+    }
 }
 
 TEST_F(PronosticsFileTest, ANumberBeyondItsWidthEndsTheLoadAfterTheRulesBeforeIt) {
