@@ -52,17 +52,33 @@ void graphOfFrequencies(Tour &tour) {
     EXPECT_EQ(visibleWindow(QStringLiteral("frmGraph")), nullptr);
 }
 
-void couples(Tour &tour) {
-    pickType(tour, 2);
-    tour.player().in("frmNbrSelector", [&tour](QWidget &dialog) {
+/// Computes a type that asks for one number.
+void computeWithSeven(Tour &tour, int type, const char *picture) {
+    pickType(tour, type);
+    tour.player().in("frmNbrSelector", [&tour, picture](QWidget &dialog) {
         Tour::clickNumbers(control<NumberBoardView>(dialog, "grd"), {7});
-        tour.picture("couple-avec-le-7");
+        tour.picture(picture);
         click(control<QPushButton>(dialog, "cmdOK"));
     });
     tour.press("tbarStats_1");
+}
+
+void couples(Tour &tour) {
+    computeWithSeven(tour, 2, "couple-avec-le-7");
     EXPECT_GT(rows(tour), 0);
     EXPECT_EQ(tour.label("lblStatsStatus").rfind("Couple le plus sorti: 07 - ", 0), 0U);
     tour.picture("couples");
+}
+
+void periodsAndTheirGraph(Tour &tour) {
+    computeWithSeven(tour, 13, "absences-du-7");
+    EXPECT_GT(rows(tour), 0);
+    EXPECT_EQ(tour.label("lblStatsStatus").rfind("Absence maxi pour le numéro 7: ", 0), 0U);
+    tour.picture("periodes-sans-sortir");
+    tour.press("tbarStats_2");
+    EXPECT_NE(visibleWindow(QStringLiteral("frmGraph")), nullptr);
+    tour.picture("graphe-des-periodes");
+    tour.press("tbarStats_2");
 }
 
 /// One statistic of each further family, and what its sentence begins with.
@@ -75,7 +91,9 @@ void otherFamilies(Tour &tour) {
     constexpr Family families[] = {
         {6, "sommes", "Somme la plus fréquente: "},
         {7, "retards", "Numéro le plus en retard: "},
+        {8, "repetitions", "Numéro le plus en répété: "},
         {9, "records-d-absence", "Numéro avec le record de retard: "},
+        {10, "records-de-repetition", "Numéro avec le record de répétition: "},
         {17, "numeros-pairs", "Meilleur compromis avec "},
     };
     for (const Family &family : families) {
@@ -121,6 +139,7 @@ void statisticsChapter(Tour &tour) {
     graphOfFrequencies(tour);
     couples(tour);
     otherFamilies(tour);
+    periodsAndTheirGraph(tour);
     exportAndPrint(tour);
     analysisOfTheLastDraw(tour);
 }
