@@ -61,8 +61,15 @@ void logLine(const std::string &text) {
         return;
     if (!gLogFile.is_open())
         fail(Failure::badFileName);
-    // The log is read where the program did not come to its end: no line may wait in a buffer.
-    if (!(gLogFile << toWestern(text) << crlf << std::flush))
+    if (!(gLogFile << toWestern(text) << crlf))
+        giveUpLog(errno);
+}
+
+void closeLog() {
+    if (!gLogFile.is_open()) // a handler has closed it
+        return;
+    gLogFile.close(); // this is where the lines of a short run are written
+    if (gLogFile.fail())
         giveUpLog(errno);
 }
 

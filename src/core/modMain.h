@@ -31,5 +31,7 @@ void openLog();
 /// `Failure::badFileName`. A line that cannot be written is shown as a failure once; the program
 /// goes on without its log.
 void logLine(const std::string &text);
+/// Closes the log if it is open. Lines that cannot be written then are shown as a failure.
+void closeLog();
 
 } // namespace boulix::modMain

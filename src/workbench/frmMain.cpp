@@ -146,7 +146,7 @@ bool frmMain::queryClose() {
         return false;
     desktop().unloadOtherWindows();
     if (modMain::gDebug)
-        modMain::gLogFile.close();
+        modMain::closeLog();
     return true;
 }
 

@@ -69,23 +69,36 @@ TEST_F(Log, ALineEndsWithCrLfAndStandsInCodePage1252) {
                                              "calcul des Cnk\r\n\r\n");
 }
 
-TEST_F(Log, ALineIsInTheFileAtOnce) {
-    open();
-    modMain::logLine("modMain.Main: Initialisation");
-    EXPECT_EQ(readBytes(file("boulix.log")), "modMain.Main: Initialisation\r\n");
-}
-
 TEST_F(Log, ALineAfterTheLogWasClosedIsAFailure) {
     open();
     modMain::gLogFile.close();
     EXPECT_EQ(failureNumber([] { modMain::logLine("trop tard"); }), 52);
 }
 
+TEST_F(Log, ClosingItAgainAfterAHandlerDidIsNoFailure) {
+    open();
+    modMain::closeLog();
+    modMain::closeLog();
+    EXPECT_EQ(desktop.messages, std::vector<ShownBox>{});
+    EXPECT_TRUE(modMain::gDebug);
+}
+
+TEST_F(Log, OnAFullDiskIsToldAtItsCloseAtTheLatest) {
+    std::filesystem::create_symlink("/dev/full", file("boulix.log"));
+    modMain::openLog();
+    modMain::logLine("modMain.Main: Précalcul des Cnk");
+    EXPECT_EQ(desktop.messages, std::vector<ShownBox>{});
+    modMain::closeLog();
+    EXPECT_EQ(desktop.messages,
+              (std::vector<ShownBox>{{"Disque plein : " + file("boulix.log"), Icon::critical,
+                                      "Boulix Erreur système N° 61"}}));
+}
+
 TEST_F(Log, OnAFullDiskIsToldOnceAndTheProgramGoesOnWithoutIt) {
     std::filesystem::create_symlink("/dev/full", file("boulix.log"));
     modMain::openLog();
     for (int line = 0; line < 3; ++line)
-        modMain::logLine("modMain.Main: une ligne qui ne trouve pas de place");
+        modMain::logLine(std::string(100'000, 'x')); // more than waits in a buffer
     EXPECT_EQ(desktop.messages,
               (std::vector<ShownBox>{{"Disque plein : " + file("boulix.log"), Icon::critical,
                                       "Boulix Erreur système N° 61"}}));
