@@ -15,9 +15,9 @@ namespace boulix {
 namespace {
 
 /// The first four numbers of a grid, to be compared at once.
-std::uint64_t headOf(const gameComb::Numbers &numbers) {
+std::uint64_t headOf(const std::int16_t *numbers) {
     std::uint64_t head = 0;
-    std::memcpy(&head, numbers.data(), sizeof head);
+    std::memcpy(&head, numbers, sizeof head);
     return head;
 }
 
@@ -29,28 +29,36 @@ drawWeights::drawWeights(const lotoComb &draw) {
     weights_[static_cast<std::uint16_t>(draw.compl_())] += complementary;
 }
 
+/// What two neighbouring numbers of a grid are worth, which are read at once.
+std::size_t drawWeights::worthOfTwo(const std::int16_t *numbers) const {
+    std::uint32_t both = 0;
+    std::memcpy(&both, numbers, sizeof both);
+    return std::size_t{weights_[both & 0xffffU]} + weights_[both >> 16U];
+}
+
 void drawWeights::count(const gameComb *grids, std::size_t count) {
-    const auto weight = [this](std::int16_t n) {
-        return std::size_t{weights_[static_cast<std::uint16_t>(n)]};
-    };
     std::uint64_t head = 0; // of four zeros
-    auto *counters = &grids_[4 * weight(0)];
+    auto *counters = &grids_[4 * std::size_t{weights_[0]}];
     const auto take = [&](const gameComb &grid, std::size_t turn) {
-        const gameComb::Numbers &n = grid.numbers();
+        const std::int16_t *n = grid.numbers().data();
         const std::uint64_t nextHead = headOf(n);
-        if (nextHead != head) {
+        if (nextHead != head) [[unlikely]] {
             head = nextHead;
-            counters = &grids_[weight(n[0]) + weight(n[1]) + weight(n[2]) + weight(n[3])];
+            counters = &grids_[worthOfTwo(n) + worthOfTwo(n + 2)];
         }
-        ++counters[weight(n[4]) + weight(n[5])][turn];
+        ++counters[worthOfTwo(n + 4)][turn];
     };
     const gameComb *const end = grids + count;
-    static_assert(turns == 4);
-    for (; end - grids >= 4; grids += 4) {
+    static_assert(turns == 8);
+    for (; end - grids >= 8; grids += 8) {
         take(grids[0], 0);
         take(grids[1], 1);
         take(grids[2], 2);
         take(grids[3], 3);
+        take(grids[4], 4);
+        take(grids[5], 5);
+        take(grids[6], 6);
+        take(grids[7], 7);
     }
     for (; grids != end; ++grids)
         take(*grids, 0);

@@ -34,14 +34,16 @@ class drawWeights {
     RankCounts wins() const;
 
   private:
+    std::size_t worthOfTwo(const std::int16_t *numbers) const;
+
     static constexpr std::uint8_t complementary = 16;
     static constexpr std::size_t worths = (complementary + 1) * gameComb::size + 1;
     // Neighbours in a game tend to be worth the same: with counters by turns, one grid need not
     // wait for the count of the other.
-    static constexpr std::size_t turns = 4;
+    static constexpr std::size_t turns = 8;
 
-    std::array<std::uint8_t, 65536> weights_{};                   // by the bits of a 16-bit number
     std::array<std::array<std::int32_t, turns>, worths> grids_{}; // how many have each worth
+    std::array<std::uint8_t, 65536> weights_{};                   // by the bits of a 16-bit number
 };
 
 } // namespace boulix
