@@ -82,6 +82,13 @@ TEST_F(DrawExport, FailsOnAFolderThatIsNotThere) {
     EXPECT_NE(failureNumber([] { gDbCombs->ExportDB(); }), 0);
 }
 
+TEST_F(DrawExport, FailsOnAFolderAsTheFile) {
+    desktop.answerSave(folder());
+    const auto failure = failureOf([] { gDbCombs->ExportDB(); });
+    ASSERT_TRUE(failure);
+    EXPECT_NE(failure->description().find(folder()), std::string::npos) << failure->description();
+}
+
 TEST_F(DrawExport, CannotBeImportedAgain) {
     add(draws[0]);
     const std::string bytes = exported();

@@ -4,10 +4,10 @@
 #include "draws/drawsTest.h"
 
 #include "support/smallDisk.h"
+#include "support/withoutRights.h"
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 namespace boulix {
 namespace {
@@ -54,6 +54,19 @@ TEST_F(BaseOnASmallDisk, AnImportThatDoesNotFitIsMergedInMemoryAndReported) {
     EXPECT_TRUE(desktop.mainWindowEnabled());
 }
 
+TEST_F(BaseOnASmallDisk, AnExportThatDoesNotFitOrMayNotBeWrittenIsAFailure) {
+    for (int i = 0; i < 400; ++i)
+        gDbCombs->Add(37633, 1, {}, false, "");
+    const auto exportThere = [&] {
+        desktop.answerSave(disk.file("base.txt"));
+        return failureNumber([] { gDbCombs->ExportDB(); });
+    };
+    EXPECT_EQ(exportThere(), 61);
+    disk.makeReadOnly();
+    EXPECT_EQ(exportThere(), 70);
+    EXPECT_EQ(gDbCombs->Count(), 400);
+}
+
 TEST_F(BaseOnASmallDisk, AReadOnlyDiskIsReadAndKeepsItsFile) {
     writeBytes(diskFile(), drawsFile({kept}));
     disk.makeReadOnly();
@@ -71,26 +84,6 @@ TEST_F(BaseOnASmallDisk, AReadOnlyDiskWithoutABaseFailsTheLoad) {
     EXPECT_EQ(failureNumber([] { gDbCombs->load(); }), 70);
     EXPECT_EQ(gDbCombs->Count(), 0);
 }
-
-/// Gives up the rights of root for the time of a scope; everybody else has none to give up.
-class WithoutRights {
-  public:
-    WithoutRights() : isRoot_(geteuid() == 0) {
-        if (isRoot_) {
-            EXPECT_EQ(seteuid(65534), 0);
-        }
-    }
-    ~WithoutRights() {
-        if (isRoot_) {
-            EXPECT_EQ(seteuid(0), 0);
-        }
-    }
-    WithoutRights(const WithoutRights &) = delete;
-    WithoutRights &operator=(const WithoutRights &) = delete;
-
-  private:
-    bool isRoot_;
-};
 
 class BaseWithoutRights : public DrawsTest {
   protected:
@@ -122,6 +115,19 @@ TEST_F(BaseWithoutRights, AnUnreadableFileIsNotImported) {
     ASSERT_TRUE(failure);
     EXPECT_EQ(failure->number(), 70);
     EXPECT_EQ(failure->description(), "Permission refusée : " + file("import.txt"));
+    expectBaseKept();
+}
+
+TEST_F(BaseWithoutRights, AFolderThatCannotBeWrittenTakesNoExport) {
+    setRights(folder(), 0555);
+    desktop.answerSave(file("base.txt"));
+    const auto failure = failureOf([] {
+        const WithoutRights user;
+        gDbCombs->ExportDB();
+    });
+    ASSERT_TRUE(failure);
+    EXPECT_EQ(failure->number(), 70);
+    EXPECT_EQ(failure->description(), "Permission refusée : " + file("base.txt"));
     expectBaseKept();
 }
 

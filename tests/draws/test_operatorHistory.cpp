@@ -3,10 +3,12 @@
 
 #include "draws/drawsTest.h"
 
+#include "core/text.h"
 #include "support/locations.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
+#include <map>
 
 namespace boulix {
 namespace {
@@ -127,6 +129,31 @@ TEST_F(OperatorHistory, CancelledAtAnyStageLeavesTheFile) {
         gDbCombs->load();
         EXPECT_EQ(rows(), before) << turn;
     }
+}
+
+TEST_F(OperatorHistory, IsExportedDrawByDrawAsTheOperatorHasIt) {
+    EXPECT_TRUE(importHistory());
+    desktop.answerSave(file("base.txt"));
+    gDbCombs->ExportDB();
+
+    // Date, draw of the day, numbers and complementary, straight from the operator's lines.
+    std::map<std::string, std::string> ofDay;
+    const auto lines = split(readBytes(history_), '\n');
+    for (auto line = lines.begin() + 1; line != lines.end(); ++line) {
+        const auto field = split(*line, ';');
+        if (field.size() < 12)
+            continue;
+        const std::string &day = field[3];
+        std::string text = day.substr(6, 2) + "/" + day.substr(4, 2) + "/" + day.substr(0, 4);
+        text += ";" + field[1];
+        for (std::size_t i = 5; i < 12; ++i)
+            text += ";" + field[i];
+        ofDay[day + field[1]] = text + "\r\n";
+    }
+    std::string expected = "Date;Tirage;N1;N2;N3;N4;N5;N6;Compl\xE9mentaire\r\n";
+    for (const auto &[key, text] : ofDay)
+        expected += text;
+    EXPECT_EQ(readBytes(file("base.txt")), expected);
 }
 
 } // namespace

@@ -14,6 +14,7 @@
 #include "support/files.h"
 #include "support/recordingPrinters.h"
 #include "support/smallDisk.h"
+#include "support/withoutRights.h"
 
 #include <filesystem>
 #include <gtest/gtest.h>
@@ -307,6 +308,20 @@ TEST_F(StatReport, APlaceWhereNoFileCanBeIsAFailure) {
     };
     EXPECT_NE(exportTo(file("nowhere/stat.txt")), 0);
     EXPECT_NE(exportTo(folder()), 0) << "a folder";
+}
+
+TEST_F(StatReport, AFolderWithoutPermissionIsAFailureThatNamesTheFile) {
+    computeAll(1, 0);
+    std::filesystem::permissions(folder(), std::filesystem::perms(0555));
+    const auto failure = failureOf([&] {
+        const WithoutRights user;
+        modStats::WriteStatsText(name(), 1, 0, 1, 4, chooser);
+    });
+    std::filesystem::permissions(folder(), std::filesystem::perms(0755));
+    ASSERT_TRUE(failure);
+    EXPECT_EQ(failure->number(), 70);
+    EXPECT_EQ(failure->description(), "Permission refusée : " + name());
+    EXPECT_FALSE(fileExists(name()));
 }
 
 TEST_F(StatReport, AFileThatMayNotBeWrittenIsAFailureThatNamesItAndKeepsIt) {

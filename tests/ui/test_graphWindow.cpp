@@ -7,6 +7,7 @@
 #include "stats/graphSettings.h"
 #include "support/boulixTest.h"
 #include "support/smallDisk.h"
+#include "support/withoutRights.h"
 #include "ui/graph/graphWindow.h"
 #include "ui/graph/plotView.h"
 #include "ui/support/robot.h"
@@ -20,6 +21,7 @@
 #include <QXmlStreamReader>
 #include <QtTest/QTest>
 
+#include <filesystem>
 #include <optional>
 #include <string>
 #include <vector>
@@ -231,6 +233,19 @@ TEST_F(GraphWindowTest, APlaceThatTakesNoPictureIsOneMessageThatNamesIt) {
             EXPECT_NE(desktop.messages[0].text.find(place), std::string::npos)
                 << desktop.messages[0].text;
         }
+}
+
+TEST_F(GraphWindowTest, AFolderWithoutPermissionIsOneMessage) {
+    std::filesystem::permissions(folder(), std::filesystem::perms(0555));
+    for (const char *entry : {"mnuGraphPng", "mnuGraphSvg"}) {
+        const WithoutRights user;
+        keep(entry, file("graphe"));
+    }
+    std::filesystem::permissions(folder(), std::filesystem::perms(0755));
+    EXPECT_EQ(desktop.messages,
+              std::vector<ShownBox>(2, {"Permission refusée : " + file("graphe"), Icon::critical,
+                                        "Boulix Erreur système N° 70"}));
+    EXPECT_FALSE(fileExists(file("graphe")));
 }
 
 TEST_F(GraphWindowTest, AFullOrReadOnlyDiskIsOneMessage) {
