@@ -77,7 +77,7 @@ std::string readLabel(SlotReader &reader, std::int64_t slot) {
 
 /// The row as it is stored, but for its sum, which is made anew.
 gameComb readRow(SlotReader &reader, std::int64_t slot) {
-    const std::string record = reader.read(slot, 2 * gameComb::size);
+    const std::string record = reader.read(slot, std::size_t{2} * gameComb::size);
     gameComb row;
     for (int i = 1; i <= gameComb::size; ++i)
         row.num(i, readInt16(record, 2 * static_cast<std::size_t>(i - 1)));

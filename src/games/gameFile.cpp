@@ -20,7 +20,8 @@ namespace {
 constexpr auto fileFilter = "Fichier jeu Boulix (*.lst)|*.lst";
 constexpr auto fileType = static_cast<std::int32_t>(FileType::gameSet);
 
-constexpr std::size_t gridBytes = 2 * (gameComb::size + 1);
+constexpr std::size_t numberBytes = std::size_t{2} * gameComb::size;
+constexpr std::size_t gridBytes = numberBytes + 2; // and the sum
 /// How many slots are written together.
 constexpr std::size_t slotsPerBlock = 512;
 
@@ -63,7 +64,7 @@ gameComb readGrid(SlotReader &reader, std::int64_t slot, std::int64_t slotLength
     gameComb grid;
     if ((slot - 1) * slotLength >= reader.fileSize())
         return grid;
-    const std::string record = reader.read(slot, 2 * gameComb::size);
+    const std::string record = reader.read(slot, numberBytes);
     for (int i = 1; i <= gameComb::size; ++i)
         grid.num(i, readInt16(record, 2 * static_cast<std::size_t>(i - 1)));
     return grid;

@@ -208,6 +208,7 @@ bool game::ComputeRandomGame(std::int32_t count, const selector &sel) {
     platform().seedRandomFromClock();
     if (Count() >= count)
         return true;
+    reserve(static_cast<std::size_t>(count - Count()));
     const Numbers selection = selectedNumbers(sel);
     SeenCodes seen;
     // The first grid of a call is compared with none, all later ones with the whole game.
