@@ -31,7 +31,6 @@ DatabaseTab::DatabaseTab(databasePage &page, QWidget *parent)
         runCommand([&] { page_.clickRow(static_cast<std::int32_t>(row)); });
     });
     page_.view(this);
-    setFocusProxy(lvwDBcomb);
     refresh();
 }
 
@@ -86,8 +85,7 @@ void DatabaseTab::layOut() {
     column->setSpacing(theme::gap);
     column->addWidget(tbarDB);
     column->addLayout(below, 1);
-    setTabOrder(tbarDB, lvwDBcomb);
-    setTabOrder(lvwDBcomb, grdDB);
+    setTabStops({tbarDB, lvwDBcomb, grdDB});
 }
 
 std::vector<std::int64_t> DatabaseTab::selectedRows() const {

@@ -45,7 +45,6 @@ DrawAnalysisTab::DrawAnalysisTab(drawAnalysisPage &page, QWidget *parent)
 
     setBallOrder();
     page_.view(this);
-    setFocusProxy(lstStatTirType);
     refresh();
 }
 

@@ -33,7 +33,6 @@ EliminatorTab::EliminatorTab(eliminatorPage &page, QWidget *parent)
     column->addWidget(makeRules());
     column->addStretch();
     page_.view(this);
-    setFocusProxy(chkEliminator.front());
     refresh();
 }
 
@@ -60,14 +59,13 @@ QWidget *EliminatorTab::makeRules() {
     grid->setHorizontalSpacing(2 * theme::margin);
     grid->setVerticalSpacing(theme::margin);
     grid->setColumnStretch(2, 1);
-    QWidget *last = tBarEliminator;
+    std::vector<QWidget *> stops = {tBarEliminator};
     for (int index = 0; index < eliminatorPage::ruleCount; ++index) {
         addRule(*grid, index);
-        QWidget *box = chkEliminator[static_cast<std::size_t>(index)];
-        setTabOrder(last, box);
-        setTabOrder(box, controlOf(index));
-        last = controlOf(index);
+        stops.push_back(chkEliminator[static_cast<std::size_t>(index)]);
+        stops.push_back(controlOf(index));
     }
+    setTabStops(stops);
     return rules;
 }
 

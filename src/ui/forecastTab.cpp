@@ -26,7 +26,6 @@ ForecastTab::ForecastTab(forecastPage &page, QWidget *parent)
     makeList();
     layOut();
     page_.view(this);
-    setFocusProxy(n_.front().box);
     refresh();
 }
 
@@ -138,15 +137,11 @@ void ForecastTab::layOut() {
     column->setSpacing(0);
     column->addWidget(tBarPronos);
     column->addLayout(below, 1);
-    setTabOrder(tBarPronos, n_[0].box);
-    const QWidget *last = nullptr;
+    std::vector<QWidget *> stops = {tBarPronos};
     for (std::size_t rule = 0; rule < n_.size(); ++rule)
-        for (QWidget *box : {n_[rule].box, p_[rule].box, points_[rule].box}) {
-            if (last)
-                setTabOrder(const_cast<QWidget *>(last), box);
-            last = box;
-        }
-    setTabOrder(points_.back().box, lvwPronoResults);
+        stops.insert(stops.end(), {n_[rule].box, p_[rule].box, points_[rule].box});
+    stops.push_back(lvwPronoResults);
+    setTabStops(stops);
 }
 
 void ForecastTab::refresh() {

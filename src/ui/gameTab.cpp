@@ -40,7 +40,6 @@ GameTab::GameTab(gamePage &page, winningsPage &winnings, QWidget *parent)
     column->addWidget(tbarGame);
     column->addLayout(below, 1);
     page_.view(this);
-    setFocusProxy(lvwGame);
     refresh();
 }
 

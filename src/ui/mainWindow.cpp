@@ -63,7 +63,7 @@ MainWindow::MainWindow(frmMain &main) : main_(main), TabStrip(new QTabWidget(thi
     makeStatusBar();
     main_.view(this);
     refresh();
-    TabStrip->currentWidget()->setFocus();
+    findChild<QWidget *>(QStringLiteral("lvwDBcomb"))->setFocus();
     resize(sizeInTwips * pixelsPerTwip);
 }
 

@@ -27,16 +27,16 @@
 namespace boulix {
 
 StatisticsTab::StatisticsTab(statisticsPage &page, QWidget *parent)
-    : QWidget(parent), page_(page), types_(new QMenu(this)), lblStatType(new QLabel(this)),
-      lblStatDesc(new QLabel(this)), lvwStatsResult(new ReportView(page.lvwStatsResult, this)),
-      lblStatsStatus(new QLabel(this)),
+    : QWidget(parent), page_(page), tbarStats(makeToolbar()), types_(new QMenu(this)),
+      lblStatType(new QLabel(this)), lblStatDesc(new QLabel(this)),
+      lvwStatsResult(new ReportView(page.lvwStatsResult, this)), lblStatsStatus(new QLabel(this)),
       frameStatsRange(new QGroupBox(QStringLiteral("Plage d'étude"), this)),
       start_(new UpDownField(page.updStatStart, QStringLiteral("txtStatStart"),
                              QStringLiteral("updStatStart"), frameStatsRange)),
       end_(new UpDownField(page.updStatEnd, QStringLiteral("txtStatEnd"),
                            QStringLiteral("updStatEnd"), frameStatsRange)),
-      lblStatStartDate(new QLabel(frameStatsRange)), lblStatEndDate(new QLabel(frameStatsRange)),
-      grdStatNbrSelector(new NumberBoardView(page.grdStatNbrSelector, this)) {
+      grdStatNbrSelector(new NumberBoardView(page.grdStatNbrSelector, this)),
+      lblStatStartDate(new QLabel(frameStatsRange)), lblStatEndDate(new QLabel(frameStatsRange)) {
     lblStatType->setObjectName(QStringLiteral("lblStatType"));
     lblStatDesc->setObjectName(QStringLiteral("lblStatDesc"));
     lblStatDesc->setToolTip(QStringLiteral("Descriptif du type de statistique actif"));
@@ -47,13 +47,11 @@ StatisticsTab::StatisticsTab(statisticsPage &page, QWidget *parent)
     grdStatNbrSelector->setObjectName(QStringLiteral("grdStatNbrSelector"));
     lblStatStartDate->setObjectName(QStringLiteral("lblStatStartDate"));
     lblStatEndDate->setObjectName(QStringLiteral("lblStatEndDate"));
-    makeToolbar();
     makeTypeMenu();
     makeRange();
     connectList();
     layOut();
     page_.view(this);
-    setFocusProxy(lvwStatsResult);
     refresh();
 }
 
@@ -61,7 +59,7 @@ StatisticsTab::~StatisticsTab() {
     page_.view(nullptr);
 }
 
-void StatisticsTab::makeToolbar() {
+QToolBar *StatisticsTab::makeToolbar() {
     const std::vector<ToolbarButton> buttons = {
         {QStringLiteral("T&ype"),
          QStringLiteral("Sélection du type de statistique à calculer. Cliquez sur le bouton pour "
@@ -88,11 +86,12 @@ void StatisticsTab::makeToolbar() {
          QStringLiteral("clear"),
          {}},
     };
-    tbarStats = boulix::makeToolbar(
+    QToolBar *bar = boulix::makeToolbar(
         QStringLiteral("tbarStats"), buttons,
         [this](int number) { page_.clickButton(number, button(number)->isChecked()); }, this);
-    button(statisticsPage::showGraph)->setCheckable(true);
-    button(statisticsPage::withComplementary)->setCheckable(true);
+    for (const int checked : {statisticsPage::showGraph, statisticsPage::withComplementary})
+        bar->actions().at(checked - 1)->setCheckable(true);
+    return bar;
 }
 
 QAction *StatisticsTab::button(int number) const {
@@ -179,7 +178,6 @@ void StatisticsTab::layOut() {
     column->setSpacing(theme::gap);
     column->addWidget(tbarStats);
     column->addLayout(below, 1);
-    setTabOrder(tbarStats, lvwStatsResult);
 }
 
 std::vector<std::int64_t> StatisticsTab::selectedRows() const {

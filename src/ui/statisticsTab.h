@@ -36,7 +36,7 @@ class StatisticsTab : public QWidget, public statisticsView {
     modStats::GraphWindowPos closeGraph() override;
 
   private:
-    void makeToolbar();
+    QToolBar *makeToolbar();
     void makeTypeMenu();
     void makeRange();
     void connectList();
@@ -44,8 +44,7 @@ class StatisticsTab : public QWidget, public statisticsView {
     QAction *button(int number) const;
 
     statisticsPage &page_;
-    // In the order in which the Tab key goes over them.
-    QToolBar *tbarStats = nullptr;
+    QToolBar *tbarStats; // the Tab key goes through the controls as they are made
     QMenu *types_;
     QLabel *lblStatType;
     QLabel *lblStatDesc;
@@ -54,9 +53,9 @@ class StatisticsTab : public QWidget, public statisticsView {
     QGroupBox *frameStatsRange;
     UpDownField *start_;
     UpDownField *end_;
+    NumberBoardView *grdStatNbrSelector;
     QLabel *lblStatStartDate;
     QLabel *lblStatEndDate;
-    NumberBoardView *grdStatNbrSelector;
     QPointer<GraphWindow> graph_;
 };
 

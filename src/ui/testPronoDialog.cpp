@@ -114,12 +114,7 @@ QWidget *TestPronoDialog::makeQuestions() {
     grid->addWidget(txtNbrCount, 3, 1);
     grid->addWidget(label("&meilleurs numéros issus du pronostique", txtNbrCount), 3, 2);
     grid->setColumnStretch(2, 1);
-    QWidget *last = toolBar;
-    for (QWidget *next : std::initializer_list<QWidget *>{txtNumTir, spnTir, txtTirBefore,
-                                                          txtTirAfter, txtNbrCount, lvWResult}) {
-        setTabOrder(last, next);
-        last = next;
-    }
+    setTabStops({toolBar, txtNumTir, spnTir, txtTirBefore, txtTirAfter, txtNbrCount, lvWResult});
     return questions;
 }
 

@@ -42,4 +42,17 @@ QToolBar *makeToolbar(const QString &name, const std::vector<ToolbarButton> &but
     return bar;
 }
 
+void setTabStops(const std::vector<QWidget *> &stops) {
+    std::vector<QWidget *> parts;
+    for (QWidget *stop : stops) {
+        if (const auto *bar = qobject_cast<const QToolBar *>(stop))
+            for (QAction *action : bar->actions())
+                parts.push_back(bar->widgetForAction(action));
+        else
+            parts.push_back(stop);
+    }
+    for (std::size_t i = 1; i < parts.size(); ++i)
+        QWidget::setTabOrder(parts[i - 1], parts[i]);
+}
+
 } // namespace boulix

@@ -27,4 +27,8 @@ struct ToolbarButton {
 QToolBar *makeToolbar(const QString &name, const std::vector<ToolbarButton> &buttons,
                       const std::function<void(int)> &clicked, QWidget *parent);
 
+/// The Tab key goes through `stops` in this order, and through all buttons of a toolbar. A field
+/// made of several parts must be made in its turn instead.
+void setTabStops(const std::vector<QWidget *> &stops);
+
 } // namespace boulix

@@ -5,6 +5,7 @@
 #include "core/frmNbrSelector.h"
 #include "core/frmProgress.h"
 #include "core/globals.h"
+#include "draws/dbCombs.h"
 #include "layoutTest.h"
 #include "ui/frmAbout.h"
 #include "ui/frmSelDate.h"
@@ -16,9 +17,12 @@
 #include "ui/support/tabOrder.h"
 #include "workbench/frmMain.h"
 
+#include <QAction>
 #include <QLabel>
 #include <QPushButton>
+#include <QTabBar>
 #include <QTabWidget>
+#include <QToolButton>
 #include <QtTest/QTest>
 
 #include <gmock/gmock.h>
@@ -28,7 +32,7 @@ namespace {
 
 using testing_support::clippedControls;
 using testing_support::LayoutTest;
-using testing_support::tabOrder;
+using testing_support::tabPresses;
 
 class FrameLayoutTest : public LayoutTest {};
 
@@ -96,22 +100,84 @@ TEST(Clipping, ATextWithoutRoomAndAControlThatSticksOutAreFound) {
 
 INSTANTIATE_TEST_SUITE_P(Fonts, FrameLayoutTest, LayoutTest::fontSizes(), LayoutTest::nameOf);
 
-class TabOrderTest : public ScreenTest {};
+using Names = std::vector<std::string>;
+
+class TabOrderTest : public ScreenTest {
+  protected:
+    /// What the key goes to from the control on that has the focus in a window just opened.
+    static Names fromTheStart(QWidget &window) {
+        window.show();
+        window.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+        return tabPresses(window, *window.focusWidget());
+    }
+};
 
 TEST_F(TabOrderTest, TheNumberDialogGoesFromTheBoardToItsButtons) {
     frmNbrSelector state;
     NumberDialog dialog(state);
-    dialog.show();
-    EXPECT_EQ(tabOrder(dialog),
-              (std::vector<std::string>{"grd", "cmdSelectAll", "cmdClear", "cmdOK", "cmdCancel"}));
+    EXPECT_EQ(fromTheStart(dialog),
+              (Names{"grd", "cmdSelectAll", "cmdClear", "cmdOK", "cmdCancel"}));
 }
 
-TEST_F(TabOrderTest, TheDatabasePageGoesFromTheToolbarOverTheListToTheBoard) {
+TEST_F(TabOrderTest, TheDateDialogGoesFromTheCalendarOverTheDrawToTheButton) {
+    frmSelDate dialog;
+    EXPECT_EQ(fromTheStart(dialog), (Names{"qt_calendar_calendarview", "updTirage", "cmdOK"}));
+}
+
+TEST_F(TabOrderTest, EveryPageGoesFromTheTabsOverItsToolbarToTheRestAndRound) {
+    gAppInfo->init("", "", "", 2003);
+    gDbCombs->dbFile().path(platform.applicationFolder());
+    gDbCombs->dbFile().name("tirages.dbl");
+    gDbCombs->Add(37632, 1, {}, true, ""); // without a draw the fields of positions are closed
     MainWindow &window = start();
-    const std::vector<std::string> named = tabOrder(window);
-    EXPECT_THAT(named, ::testing::IsSupersetOf({"lvwDBcomb", "grdDB"}));
-    const auto at = [&](const char *name) { return std::find(named.begin(), named.end(), name); };
-    EXPECT_LT(at("lvwDBcomb"), at("grdDB"));
+    auto &tabs = control<QTabWidget>(window, "TabStrip");
+    const std::vector<Names> pages = {
+        {"tbarDB_1", "tbarDB_2", "tbarDB_3", "tbarDB_4", "tbarDB_5", "tbarDB_6", "lvwDBcomb",
+         "grdDB"},
+        {"tbarStats_1", "tbarStats_2", "tbarStats_3", "tbarStats_4", "tbarStats_5", "tbarStats_6",
+         "lvwStatsResult", "txtStatStart", "txtStatEnd", "grdStatNbrSelector"},
+        {"txtTirNbr", "lblNumTir_1", "lblNumTir_2", "lblNumTir_3", "lblNumTir_4", "lblNumTir_5",
+         "lblNumTir_6", "lblNumTir_0", "lstStatTirType", "lvwTirStat"},
+        {"tBarEliminator_1", "tBarEliminator_2", "chkEliminator_0", "chkEliminator_1",
+         "chkEliminator_2", "chkEliminator_3", "chkEliminator_4", "chkEliminator_5",
+         "chkEliminator_6", "chkEliminator_7"},
+        {"tbarGame_1", "tbarGame_2", "tbarGame_3", "tbarGame_4", "tbarGame_5", "tbarGame_6",
+         "lvwGame", "chkUpdateList", "qt_tabwidget_tabbar", "tabGameDesign", "tbarGameDef_1",
+         "tbarGameDef_2", "tbarGameDef_3", "tbarGameDef_4", "cmbGameType", "grdGameDef",
+         "lvwGameDef"},
+        {"tBarPronos_1", "tBarPronos_2", "tBarPronos_3", "tBarPronos_4", "txtN_0", "txtP_0",
+         "txtPoints_0", "txtN_1", "txtPoints_1", "txtN_2", "txtPoints_2", "txtN_3", "txtP_3",
+         "txtPoints_3", "lvwPronoResults"},
+    };
+    for (std::size_t page = 0; page < pages.size(); ++page) {
+        tabs.setCurrentIndex(static_cast<int>(page));
+        Names expected = pages[page];
+        expected.insert(expected.begin(), "qt_tabwidget_tabbar");
+        EXPECT_EQ(tabPresses(window, *tabs.tabBar()), expected) << "page " << page;
+    }
+}
+
+TEST_F(TabOrderTest, EverySubTabOfTheGamePageLetsTheKeyThrough) {
+    MainWindow &window = start();
+    auto &tabs = control<QTabWidget>(window, "TabStrip");
+    tabs.setCurrentIndex(4);
+    auto &sides = control<QTabWidget>(window, "TabGame");
+    for (int side = 0; side < sides.count(); ++side) {
+        sides.setCurrentIndex(side);
+        const Names names = tabPresses(window, *tabs.tabBar());
+        EXPECT_THAT(names, ::testing::IsSupersetOf({"tbarGame_1", "lvwGame", "chkUpdateList"}));
+        EXPECT_LT(names.size(), 50U) << "the key goes in a circle on side " << side;
+    }
+}
+
+TEST_F(TabOrderTest, TheDatabasePageOpensOnItsList) {
+    EXPECT_EQ(fromTheStart(start()).front(), "lvwDBcomb");
+}
+
+TEST_F(TabOrderTest, AWindowWithOneButtonHasTheFocusOnIt) {
+    frmAbout about(*gAppInfo);
+    EXPECT_EQ(fromTheStart(about), (Names{"CMD_OK"}));
 }
 
 } // namespace

@@ -6,13 +6,12 @@
 #include "core/reports.h"
 #include "stats/frmGraph.h"
 #include "stats/graphSettings.h"
+#include "ui/okCancelRow.h"
 #include "ui/theme.h"
 
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFormLayout>
-#include <QHBoxLayout>
-#include <QPushButton>
 
 namespace boulix {
 
@@ -34,19 +33,6 @@ GraphParamDialog::GraphParamDialog(frmGraphParam &rules, QWidget *parent)
 }
 
 void GraphParamDialog::layOut() {
-    auto *CMD_OK = new QPushButton(QStringLiteral("OK"), this);
-    auto *CMD_Cancel = new QPushButton(QStringLiteral("A&nnuler"), this);
-    CMD_OK->setObjectName(QStringLiteral("CMD_OK"));
-    CMD_Cancel->setObjectName(QStringLiteral("CMD_Cancel"));
-    CMD_OK->setDefault(true);
-    connect(CMD_OK, &QPushButton::clicked, this, &GraphParamDialog::confirm);
-    connect(CMD_Cancel, &QPushButton::clicked, this, &QDialog::reject);
-    auto *buttons = new QHBoxLayout;
-    buttons->setSpacing(theme::gap);
-    buttons->addStretch();
-    buttons->addWidget(CMD_OK);
-    buttons->addWidget(CMD_Cancel);
-
     auto *form = new QFormLayout(this);
     form->setContentsMargins(theme::margin, theme::margin, theme::margin, theme::margin);
     form->setSpacing(theme::gap);
@@ -54,7 +40,7 @@ void GraphParamDialog::layOut() {
     form->addRow(chkShowAxes);
     form->addRow(chkShowGrid);
     form->addItem(new QSpacerItem(0, theme::gap));
-    form->addRow(buttons);
+    form->addRow(makeOkCancelRow(*this, [this] { confirm(); }));
 }
 
 void GraphParamDialog::confirm() {

@@ -5,14 +5,13 @@
 
 #include "core/reports.h"
 #include "printing/frmGridParam.h"
+#include "ui/okCancelRow.h"
 #include "ui/qtText.h"
 #include "ui/theme.h"
 
 #include <QFormLayout>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
 
 namespace boulix {
 
@@ -27,26 +26,12 @@ GridParamDialog::GridParamDialog(frmGridParam &rules, QWidget *parent)
 }
 
 void GridParamDialog::layOut() {
-    auto *CMD_OK = new QPushButton(QStringLiteral("OK"), this);
-    auto *CMD_Cancel = new QPushButton(QStringLiteral("&Annuler"), this);
-    CMD_OK->setObjectName(QStringLiteral("CMD_OK"));
-    CMD_Cancel->setObjectName(QStringLiteral("CMD_Cancel"));
-    CMD_OK->setDefault(true);
-    connect(CMD_OK, &QPushButton::clicked, this, &GridParamDialog::confirm);
-    connect(CMD_Cancel, &QPushButton::clicked, this, &GridParamDialog::reject);
-
-    auto *buttons = new QHBoxLayout;
-    buttons->setSpacing(theme::gap);
-    buttons->addStretch();
-    buttons->addWidget(CMD_OK);
-    buttons->addWidget(CMD_Cancel);
-
     auto *form = new QFormLayout(this);
     form->setContentsMargins(theme::margin, theme::margin, theme::margin, theme::margin);
     form->setSpacing(theme::margin);
     form->addRow(QStringLiteral("&Unité de monnaie"), txtUnit);
     form->addRow(QStringLiteral("&Prix d'une grille"), txtPrice);
-    form->addRow(buttons);
+    form->addRow(makeOkCancelRow(*this, [this] { confirm(); }));
     txtUnit->setMinimumWidth(fontMetrics().averageCharWidth() * 24);
 }
 
