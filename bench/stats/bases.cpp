@@ -46,6 +46,18 @@ void makeBase(std::int32_t count) {
     }
 }
 
+void makeBaseWithNewNumbers(std::int32_t count) {
+    gDbCombs->clear();
+    for (std::int32_t i = 1; i <= count; ++i) {
+        const int first = i < count ? 1 : 43;
+        lotoComb comb;
+        for (int k = 1; k <= lotoComb::size; ++k)
+            comb.num(k, static_cast<std::int16_t>(first + k - 1));
+        comb.compl_(static_cast<std::int16_t>(first + 6));
+        addDraw(30000 + i, 1, comb);
+    }
+}
+
 void readHistory(const std::string &fileName) {
     gDbCombs->clear();
     std::ifstream file(fileName);

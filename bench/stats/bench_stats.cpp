@@ -111,8 +111,7 @@ void indexing(benchmark::State &state, std::int32_t count) {
 }
 
 /// One step of the spin control of the analysis page: all 71 rows of the newest draw.
-void analysis(benchmark::State &state, std::int32_t count) {
-    useBase(count);
+void analyse(benchmark::State &state, std::int32_t count) {
     const std::vector<std::int32_t> all = {0, 1, 2, 3, 4, 5, 6, 7, 8};
     std::vector<std::int32_t> values;
     std::vector<std::string> labels;
@@ -121,6 +120,18 @@ void analysis(benchmark::State &state, std::int32_t count) {
         modStats::ComputeDrawAnalysis(count, values, labels, nRows, all, 8);
         benchmark::DoNotOptimize(values.data());
     }
+}
+
+void analysis(benchmark::State &state, std::int32_t count) {
+    useBase(count);
+    analyse(state, count);
+}
+
+/// The same where nothing is found, so that the whole base is searched.
+void vainAnalysis(benchmark::State &state, std::int32_t count) {
+    makeBaseWithNewNumbers(count);
+    analyse(state, count);
+    gDbCombs->clear();
 }
 
 /// A click on the button of type 11 on a base of one draw: nearly all triplets are listed.
@@ -148,6 +159,7 @@ void registerAll() {
                 benchmark::RegisterBenchmark(name.c_str(), statistic, type, withCompl, count);
             }
         benchmark::RegisterBenchmark(("analysis" + draws).c_str(), analysis, count);
+        benchmark::RegisterBenchmark(("vain" + draws).c_str(), vainAnalysis, count);
         benchmark::RegisterBenchmark(("index" + draws).c_str(), indexing, count);
     }
 }
