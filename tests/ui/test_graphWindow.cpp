@@ -150,6 +150,25 @@ TEST_F(GraphWindowTest, TheWheelZoomsAndTheMouseDragsAndTheWholeCurveComesBack) 
     EXPECT_EQ(range(), whole);
 }
 
+TEST_F(GraphWindowTest, ZoomingHasAnEndInBothDirections) {
+    const auto extent = [this] { return range().xMax - range().xMin; };
+    for (int i = 0; i < 400; ++i)
+        wheel(-10);
+    EXPECT_GT(extent(), 1e6F);
+    EXPECT_LT(extent(), 2e9F);
+    wheel(1);
+    const float less = extent();
+    wheel(1);
+    EXPECT_LT(extent(), less) << "and the way back is open";
+    trigger("mnuGraphAll");
+    for (int i = 0; i < 400; ++i)
+        wheel(10);
+    EXPECT_GE(extent(), 0);
+    EXPECT_FALSE(picture().isNull());
+    trigger("mnuGraphAll");
+    EXPECT_EQ(range(), (PlotRange{0, 4, 0, 105}));
+}
+
 TEST_F(GraphWindowTest, TheRangeZoomedToIsTheManualOne) {
     wheel(2);
     const PlotRange zoomed = range();

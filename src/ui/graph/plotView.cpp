@@ -44,6 +44,13 @@ QCPRange drawable(float first, float last) {
     return range.size() > 0 ? range : QCPRange(range.lower - 0.5, range.upper + 0.5);
 }
 
+/// Whether the user may zoom or drag to a range: far beyond any curve there is nothing to see, and
+/// at last no single-precision limit.
+bool isInReach(const QCPRange &range) {
+    constexpr double farthest = 1e9;
+    return std::abs(range.lower) < farthest && std::abs(range.upper) < farthest;
+}
+
 /// The grid lies in the background: on a dark ground it is dark.
 QColor gridShade(Color color, const QPalette &palette) {
     const QColor told(color.red, color.green, color.blue);
@@ -188,8 +195,11 @@ void PlotView::followUser() {
     drawing_ = true;
     const QCPRange x = plot_->xAxis->range();
     const QCPRange y = plot_->yAxis->range();
-    pane_.userRange({static_cast<float>(x.lower), static_cast<float>(x.upper),
-                     static_cast<float>(y.lower), static_cast<float>(y.upper)});
+    if (isInReach(x) && isInReach(y))
+        pane_.userRange({static_cast<float>(x.lower), static_cast<float>(x.upper),
+                         static_cast<float>(y.lower), static_cast<float>(y.upper)});
+    else
+        drawAxes(); // back to the range of the pane
     drawing_ = false;
 }
 
