@@ -28,7 +28,6 @@ ReportPanel::ReportPanel(winningsPage &page, QWidget *parent) : QWidget(parent),
     column->addWidget(toolbar);
     column->addWidget(table);
     column->addStretch();
-    setFocusProxy(txtRapPrice.front());
 }
 
 QWidget *ReportPanel::makeToolbar() {
