@@ -60,6 +60,7 @@ frmGraph::frmGraph()
     plot.showAxes(chkShowAxes);
     plot.showGrid(chkShowGrid);
     showLimits();
+    plot.moved = [this] { followUser(); };
 }
 
 void frmGraph::selectGraphType(std::int16_t index) {
@@ -105,6 +106,16 @@ void frmGraph::leaveLimit(Limit limit, const std::string &text) {
     setting(limit) = number;
     txtLimit[limit] = text;
     sendLimit(limit);
+}
+
+/// The limits of the manual range are those to be seen: a box that is left again must not bring
+/// back the range from before.
+void frmGraph::followUser() {
+    if (optAutoRange)
+        return;
+    readBackLimits();
+    if (changed)
+        changed();
 }
 
 void frmGraph::sendLimit(Limit limit) {

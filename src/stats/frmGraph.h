@@ -49,6 +49,7 @@ class frmGraph {
 
   private:
     void chooseRange(bool automatic);
+    void followUser();
     void sendLimit(Limit limit);
     void readBackLimits();
     void showLimits();

@@ -23,9 +23,17 @@ void PlotPane::autoRange(bool follows) {
     notify();
 }
 
+void PlotPane::userRange(const PlotRange &range) {
+    change(range_, range);
+    if (moved)
+        moved();
+}
+
 void PlotPane::showAll() {
     fitRange();
     notify();
+    if (moved)
+        moved();
 }
 
 void PlotPane::titles(const std::string &x, const std::string &y) {

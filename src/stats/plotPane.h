@@ -59,7 +59,7 @@ class PlotPane {
     bool autoRange() const { return autoRange_; }
     void autoRange(bool follows);
     /// The user has zoomed or dragged: another range is to be seen until the next curve.
-    void userRange(const PlotRange &range) { change(range_, range); }
+    void userRange(const PlotRange &range);
     /// Shows the whole of the curves, whatever the range followed so far.
     void showAll();
 
@@ -74,6 +74,8 @@ class PlotPane {
 
     /// Called after any change.
     std::function<void()> changed;
+    /// Called after the user has moved the range, by `userRange` or `showAll`.
+    std::function<void()> moved;
 
   private:
     template <class T>

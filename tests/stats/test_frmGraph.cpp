@@ -164,6 +164,20 @@ TEST_F(Graph, TheWholeCurveCanBeShownInTheManualRangeToo) {
     EXPECT_FALSE(graph.plot.autoRange());
 }
 
+TEST_F(Graph, TheManualLimitsFollowTheUsersZoomAndTheAutomaticOnesDoNot) {
+    frmGraph graph;
+    graph.plot.addCurve({1, 2, 3}, {40, 100, 60});
+    graph.plot.userRange({1.5F, 2.5F, 50, 60});
+    EXPECT_EQ(limits(graph), (std::vector<std::string>{"-10", "10", "-10", "100"}));
+    EXPECT_EQ(modStats::graphXMax, 10);
+    graph.clickManualRange();
+    graph.plot.userRange({1, 2, 40, 70});
+    EXPECT_EQ(limits(graph), (std::vector<std::string>{"1", "2", "40", "70"}));
+    EXPECT_EQ(modStats::graphYMax, 70);
+    graph.plot.showAll();
+    EXPECT_EQ(limits(graph), (std::vector<std::string>{"0", "4", "0", "105"}));
+}
+
 TEST_F(Graph, ALimitTakesTheNumberOfItsTextAndABlankTextChangesNothing) {
     const std::vector<std::pair<std::string, float>> cases = {
         {"25", 25.0F}, {" 2,5 ", 2.5F}, {"-3.25", -3.25F}, {"abc", 0.0F}, {"12abc", 12.0F}};

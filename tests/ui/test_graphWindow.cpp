@@ -176,6 +176,12 @@ TEST_F(GraphWindowTest, TheRangeZoomedToIsTheManualOne) {
     EXPECT_EQ(range(), zoomed);
     EXPECT_EQ(modStats::graphXMin, zoomed.xMin);
     EXPECT_EQ(modStats::graphYMax, zoomed.yMax);
+    wheel(1);
+    const PlotRange nearer = range();
+    EXPECT_NE(nearer, zoomed);
+    for (const char *box : {"txtXMin", "txtXMax", "txtYMin", "txtYMax"})
+        QTest::keyClick(&control<QLineEdit>(*window, box), Qt::Key_Return);
+    EXPECT_EQ(range(), nearer) << "the boxes have followed";
 }
 
 TEST_F(GraphWindowTest, ImpossibleLimitsAreDrawnAndTheWindowLivesOn) {
