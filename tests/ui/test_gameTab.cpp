@@ -5,6 +5,7 @@
 #include "games/modGame.h"
 #include "support/files.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
@@ -69,6 +70,19 @@ TEST_F(GameTabTest, EachMethodShowsItsControls) {
         EXPECT_EQ(visible("chkSelect_0"), shown.sources) << shown.tab;
         EXPECT_EQ(visible("tbarCreateGame"), shown.maker) << shown.tab;
         EXPECT_EQ(visible("lblCost"), shown.maker) << shown.tab;
+    }
+}
+
+TEST_F(GameTabTest, InAWideWindowTheListStaysBesideTheBoard) {
+    window.resize(1900, 1000);
+    QApplication::processEvents();
+    for (const int tab : {gameDesign::reducedTab, gameDesign::manualTab, gameDesign::randomTab}) {
+        goTo(tab);
+        QApplication::processEvents();
+        const QRect board = control<NumberBoardView>(window, "grdGameDef").geometry();
+        const QRect grids = list("lvwGameDef").geometry();
+        EXPECT_LT(grids.left() - board.right(), 40) << tab;
+        EXPECT_LT(board.width(), 2 * grids.width()) << tab;
     }
 }
 

@@ -92,7 +92,9 @@ QWidget *GameDesignPanel::makeSystemChoice() {
             [this](int index) { design_.chooseGameType(index); });
     auto *row = new QHBoxLayout(systemChoice_);
     row->setContentsMargins(0, 0, 0, 0);
+    cmbGameType->setMaximumWidth(fontMetrics().averageCharWidth() * 120);
     row->addWidget(cmbGameType, 1);
+    row->addStretch();
     return systemChoice_;
 }
 
@@ -139,6 +141,8 @@ QWidget *GameDesignPanel::makeGrids() {
     grids_ = new QWidget(this);
     grdGameDef->setObjectName(QStringLiteral("grdGameDef"));
     grdGameDef->setToolTip(QStringLiteral("Numéros sélectionnés"));
+    // In a wide window the list stays beside the board.
+    grdGameDef->setMaximumWidth(fontMetrics().averageCharWidth() * 60);
     lvwGameDef->setObjectName(QStringLiteral("lvwGameDef"));
     lvwGameDef->setAccessibleName(QStringLiteral("Grilles calculées"));
     lvwGameDef->keepAllColumnsVisible();
