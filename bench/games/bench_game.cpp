@@ -4,8 +4,8 @@
 // Games of millions of grids: making, thinning, listing, saving and loading them.
 
 #include "core/fileAccess.h"
-#include "core/largePages.h"
 #include "core/numberMask.h"
+#include "core/platform.h"
 #include "games/game.h"
 #include "games/gameWorkplace.h"
 #include "support/ratio.h"

@@ -10,6 +10,7 @@
 #include "games/modGame.h"
 #include "support/quietProgram.h"
 #include "support/watchingDesktop.h"
+#include "ui/largePages.h"
 
 #include <cstdint>
 #include <random>
@@ -56,6 +57,9 @@ class GameWorkplace {
         using QuietPlatform::QuietPlatform;
         float nextRandom() override {
             return static_cast<float>(generator_() >> 8U) / static_cast<float>(1U << 24U);
+        }
+        void wantLargePages(void *memory, std::size_t bytes) override {
+            askForLargePages(memory, bytes);
         }
 
       private:

@@ -5,9 +5,13 @@
 
 #include "core/dates.h"
 
+#include <cstddef>
 #include <string>
 
 namespace boulix {
+
+/// What most systems call a large page of memory, in bytes.
+inline constexpr std::size_t largePage = std::size_t{1} << 21U;
 
 /// What the logic asks of the system it runs on. The program gives the real one, a test a
 /// settable one.
@@ -28,11 +32,19 @@ class Platform {
     virtual void seedRandomFromClock() = 0;
     /// The next random value in [0, 1).
     virtual float nextRandom() = 0;
+
+    /// Asks for this memory, which nobody has used yet, to come in large pages. The grids of 49
+    /// numbers take some 60,000 small ones, and to be given each of them costs several times what
+    /// it costs to fill it. Without an effect on systems that know no such wish.
+    virtual void wantLargePages(void *, std::size_t) {}
 };
 
 /// The platform in use; `setPlatform` comes first, and keeps a reference only.
 Platform &platform();
 void setPlatform(Platform *platform);
+
+/// `Platform::wantLargePages` of the platform in use; nothing where there is none yet.
+void wantLargePages(void *memory, std::size_t bytes);
 
 /// `date` in the system's short form; an invalid date fails with `Failure::overflow`.
 std::string shortDate(Date date);

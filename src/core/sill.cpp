@@ -34,6 +34,11 @@ void setPlatform(Platform *platform) {
     currentPlatform = platform;
 }
 
+void wantLargePages(void *memory, std::size_t bytes) {
+    if (currentPlatform)
+        currentPlatform->wantLargePages(memory, bytes);
+}
+
 std::string shortDate(Date date) {
     if (!isValidDate(date))
         fail(Failure::overflow);

@@ -4,7 +4,7 @@
 #include "games/game.h"
 
 #include "core/failure.h"
-#include "core/largePages.h"
+#include "core/platform.h"
 
 #include <algorithm>
 

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "core/largePages.h"
+#include "core/platform.h"
 #include "games/gameComb.h"
 
 #include <algorithm>

@@ -3,6 +3,7 @@
 
 #include "ui/qtPlatform.h"
 
+#include "ui/largePages.h"
 #include "ui/qtText.h"
 
 #include <QCoreApplication>
@@ -46,6 +47,10 @@ void QtPlatform::seedRandomFromClock() {
 float QtPlatform::nextRandom() {
     // 24 bits: every value is exact in single precision, and none rounds up to 1.
     return static_cast<float>(random_() >> 8) * 0x1p-24F;
+}
+
+void QtPlatform::wantLargePages(void *memory, std::size_t bytes) {
+    askForLargePages(memory, bytes);
 }
 
 } // namespace boulix

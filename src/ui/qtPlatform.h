@@ -23,6 +23,7 @@ class QtPlatform : public Platform {
 
     void seedRandomFromClock() override;
     float nextRandom() override;
+    void wantLargePages(void *memory, std::size_t bytes) override;
 
   private:
     std::string commandLine_;
