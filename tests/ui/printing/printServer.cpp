@@ -141,7 +141,8 @@ PrintServer::~PrintServer() {
 }
 
 void PrintServer::prepareFolder() {
-    const fs::path wanted = fs::current_path() / "print-server";
+    // Beside the test in the build folder, from wherever it was started.
+    const fs::path wanted = fs::read_symlink("/proc/self/exe").parent_path() / "print-server";
     fs::remove_all(wanted);
     if (wanted.string().size() < longestSocketName && openToAll(wanted.parent_path())) {
         folder_ = wanted.string();
