@@ -25,11 +25,11 @@ std::uint64_t headOf(const std::int16_t *numbers) {
 
 drawWeights::drawWeights(const lotoComb &draw) {
     for (int i = 1; i <= lotoComb::size; ++i)
-        weights_[static_cast<std::uint16_t>(draw.num(i))] = 1; // a repeated number counts once
-    weights_[static_cast<std::uint16_t>(draw.compl_())] += complementary;
+        weights_[static_cast<std::uint16_t>(draw.num(i))] = turns; // a repeated number counts once
+    weights_[static_cast<std::uint16_t>(draw.compl_())] += complementary * turns;
 }
 
-/// What two neighbouring numbers of a grid are worth, which are read at once.
+/// `turns` times what two neighbouring numbers of a grid are worth, which are read at once.
 std::size_t drawWeights::worthOfTwo(const std::int16_t *numbers) const {
     std::uint32_t both = 0;
     std::memcpy(&both, numbers, sizeof both);
@@ -38,7 +38,7 @@ std::size_t drawWeights::worthOfTwo(const std::int16_t *numbers) const {
 
 void drawWeights::count(const gameComb *grids, std::size_t count) {
     std::uint64_t head = 0; // of four zeros
-    auto *counters = &grids_[4 * std::size_t{weights_[0]}];
+    std::int32_t *counters = &grids_[4 * std::size_t{weights_[0]}];
     const auto take = [&](const gameComb &grid, std::size_t turn) {
         const std::int16_t *n = grid.numbers().data();
         const std::uint64_t nextHead = headOf(n);
@@ -46,7 +46,7 @@ void drawWeights::count(const gameComb *grids, std::size_t count) {
             head = nextHead;
             counters = &grids_[worthOfTwo(n) + worthOfTwo(n + 2)];
         }
-        ++counters[worthOfTwo(n + 4)][turn];
+        ++counters[worthOfTwo(n + 4) + turn];
     };
     const gameComb *const end = grids + count;
     static_assert(turns == 8);
@@ -67,8 +67,8 @@ void drawWeights::count(const gameComb *grids, std::size_t count) {
 RankCounts drawWeights::wins() const {
     RankCounts wins{};
     for (std::size_t worth = 0; worth < worths; ++worth) {
-        const auto &counts = grids_[worth];
-        const std::int32_t grids = std::accumulate(counts.begin(), counts.end(), 0);
+        const std::int32_t *counts = &grids_[worth * turns];
+        const std::int32_t grids = std::accumulate(counts, counts + turns, 0);
         if (grids == 0)
             continue;
         const auto matched = static_cast<int>(worth % complementary);

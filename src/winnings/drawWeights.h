@@ -36,14 +36,15 @@ class drawWeights {
   private:
     std::size_t worthOfTwo(const std::int16_t *numbers) const;
 
-    static constexpr std::uint8_t complementary = 16;
+    static constexpr std::uint16_t complementary = 16;
     static constexpr std::size_t worths = (complementary + 1) * gameComb::size + 1;
     // Neighbours in a game tend to be worth the same: with counters by turns, one grid need not
     // wait for the count of the other.
     static constexpr std::size_t turns = 8;
 
-    std::array<std::array<std::int32_t, turns>, worths> grids_{}; // how many have each worth
-    std::array<std::uint8_t, 65536> weights_{};                   // by the bits of a 16-bit number
+    std::array<std::int32_t, worths * turns> grids_{}; // how many have each worth, by turns
+    // By the bits of a 16-bit number: `turns` times its worth, the way to the counters.
+    std::array<std::uint16_t, 65536> weights_{};
 };
 
 } // namespace boulix
