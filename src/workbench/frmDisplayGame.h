@@ -12,8 +12,6 @@ class gameDef;
 /// The window that shows the rows of one system.
 class frmDisplayGame {
   public:
-    static constexpr const char *cmdExit = "Quitter";
-
     /// Shows `def`, which must outlive the window.
     explicit frmDisplayGame(const gameDef &def);
     frmDisplayGame(const frmDisplayGame &) = delete;
