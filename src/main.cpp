@@ -1,13 +1,13 @@
 // SPDX-FileCopyrightText: The Boulix developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "core/modMain.h"
-#include "core/reports.h"
-#include "ui/application.h"
+#include "sill/modMain.h"
+#include "sill/reports.h"
+#include "ui/frame/application.h"
+#include "ui/frame/qtDesktop.h"
+#include "ui/frame/qtPlatform.h"
 #include "ui/printing/qtPrintWindows.h"
 #include "ui/printing/qtPrinterSystem.h"
-#include "ui/qtDesktop.h"
-#include "ui/qtPlatform.h"
 
 int main(int argc, char **argv) {
     boulix::QtPlatform platform(argc, argv);

@@ -3,14 +3,14 @@
 
 #pragma once
 
-#include "core/frmNbrSelector.h"
 #include "core/modMaths.h"
-#include "core/selector.h"
 #include "eliminators/eliminators.h"
 #include "games/modGame.h"
+#include "sill/frmNbrSelector.h"
+#include "sill/selector.h"
 #include "support/quietProgram.h"
 #include "support/watchingDesktop.h"
-#include "ui/largePages.h"
+#include "ui/frame/largePages.h"
 
 #include <cstdint>
 #include <random>

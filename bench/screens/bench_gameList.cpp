@@ -7,8 +7,8 @@
 #include "games/game.h"
 #include "games/gameWorkplace.h"
 #include "support/ratio.h"
-#include "ui/application.h"
-#include "ui/reportView.h"
+#include "ui/frame/application.h"
+#include "ui/widgets/reportView.h"
 #include "workbench/gridList.h"
 
 #include <QScrollBar>

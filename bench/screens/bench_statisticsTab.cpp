@@ -14,11 +14,11 @@
 #include "stats/statTypes.h"
 #include "support/quietProgram.h"
 #include "support/ratio.h"
-#include "ui/application.h"
-#include "ui/drawAnalysisTab.h"
-#include "ui/graph/graphWindow.h"
-#include "ui/graph/plotView.h"
-#include "ui/statisticsTab.h"
+#include "ui/frame/application.h"
+#include "ui/stats/drawAnalysisTab.h"
+#include "ui/stats/graphWindow.h"
+#include "ui/stats/plotView.h"
+#include "ui/stats/statisticsTab.h"
 #include "workbench/frmMain.h"
 
 #include <QMouseEvent>

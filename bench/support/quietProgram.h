@@ -3,9 +3,9 @@
 
 #pragma once
 
-#include "core/appInfo.h"
 #include "core/globals.h"
 #include "draws/dbCombs.h"
+#include "sill/appInfo.h"
 #include "support/quietSill.h"
 
 #include <cstdlib>

@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include "core/desktop.h"
 #include "core/platform.h"
+#include "sill/desktop.h"
 
 #include <string>
 #include <utility>

@@ -7,15 +7,15 @@
 //   bench_window program FOLDER           the whole program on FOLDER, until its window is painted
 //   bench_window empty                    a Qt window with one empty list, until it is painted
 
-#include "core/appInfo.h"
 #include "core/globals.h"
-#include "core/modMain.h"
 #include "draws/dbCombs.h"
-#include "ui/application.h"
+#include "sill/appInfo.h"
+#include "sill/modMain.h"
+#include "ui/frame/application.h"
+#include "ui/frame/qtDesktop.h"
+#include "ui/frame/qtPlatform.h"
 #include "ui/printing/qtPrintWindows.h"
 #include "ui/printing/qtPrinterSystem.h"
-#include "ui/qtDesktop.h"
-#include "ui/qtPlatform.h"
 #include "winnings/rapport.h"
 
 #include <QMainWindow>

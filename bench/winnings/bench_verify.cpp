@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: The Boulix developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "core/frmProgress.h"
 #include "core/globals.h"
 #include "core/numberMask.h"
 #include "draws/dbCombs.h"
 #include "games/game.h"
+#include "sill/frmProgress.h"
 #include "support/quietProgram.h"
 #include "support/ratio.h"
 #include "winnings/gameWin.h"

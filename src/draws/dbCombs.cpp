@@ -3,9 +3,9 @@
 
 #include "draws/dbCombs.h"
 
-#include "core/desktop.h"
 #include "core/fileAccess.h"
 #include "files/slotFile.h"
+#include "sill/desktop.h"
 
 #include <algorithm>
 #include <string_view>

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: The Boulix developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "core/desktop.h"
 #include "core/numbers.h"
-#include "core/selector.h"
 #include "draws/dbCombs.h"
+#include "sill/desktop.h"
+#include "sill/selector.h"
 
 namespace boulix {
 

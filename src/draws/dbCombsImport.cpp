@@ -1,16 +1,16 @@
 // SPDX-FileCopyrightText: The Boulix developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "core/desktop.h"
-#include "core/frmProgress.h"
-#include "core/modMain.h"
 #include "core/modMaths.h"
 #include "core/numbers.h"
-#include "core/reports.h"
 #include "core/text.h"
 #include "draws/dbCombs.h"
 #include "draws/lineReader.h"
 #include "files/modFileSelector.h"
+#include "sill/desktop.h"
+#include "sill/frmProgress.h"
+#include "sill/modMain.h"
+#include "sill/reports.h"
 
 #include <algorithm>
 #include <array>

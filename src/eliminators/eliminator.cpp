@@ -4,8 +4,8 @@
 #include "eliminators/eliminator.h"
 
 #include "core/numbers.h"
-#include "core/reports.h"
 #include "core/text.h"
+#include "sill/reports.h"
 
 namespace boulix {
 

@@ -5,11 +5,11 @@
 
 #include "core/modMaths.h"
 #include "core/numbers.h"
-#include "core/reports.h"
 #include "core/text.h"
 #include "eliminators/modEliminator.h"
 #include "files/modFileSelector.h"
 #include "files/slotFile.h"
+#include "sill/reports.h"
 
 #include <array>
 

@@ -3,13 +3,13 @@
 
 #include "files/fileHead.h"
 
-#include "core/appInfo.h"
 #include "core/globals.h"
 #include "core/numbers.h"
 #include "core/platform.h"
-#include "core/reports.h"
 #include "core/text.h"
 #include "files/slotFile.h"
+#include "sill/appInfo.h"
+#include "sill/reports.h"
 
 #include <array>
 #include <istream>

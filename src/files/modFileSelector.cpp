@@ -3,9 +3,9 @@
 
 #include "files/modFileSelector.h"
 
-#include "core/desktop.h"
-#include "core/modMain.h"
 #include "files/xFile.h"
+#include "sill/desktop.h"
+#include "sill/modMain.h"
 
 namespace boulix::modFileSelector {
 

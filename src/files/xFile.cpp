@@ -3,14 +3,14 @@
 
 #include "files/xFile.h"
 
-#include "core/appInfo.h"
 #include "core/failure.h"
 #include "core/fileAccess.h"
 #include "core/globals.h"
 #include "core/numbers.h"
-#include "core/reports.h"
 #include "core/text.h"
 #include "files/slotFile.h"
+#include "sill/appInfo.h"
+#include "sill/reports.h"
 
 #include <filesystem>
 #include <system_error>

@@ -3,14 +3,14 @@
 
 #include "forecasts/pronos.h"
 
-#include "core/desktop.h"
-#include "core/frmProgress.h"
 #include "core/globals.h"
 #include "core/modMaths.h"
 #include "core/numbers.h"
-#include "core/reports.h"
 #include "draws/dbCombs.h"
 #include "forecasts/presence.h"
+#include "sill/desktop.h"
+#include "sill/frmProgress.h"
+#include "sill/reports.h"
 
 #include <algorithm>
 

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "core/numbers.h"
-#include "core/reports.h"
 #include "core/text.h"
 #include "forecasts/pronos.h"
+#include "sill/reports.h"
 
 #include <optional>
 #include <string_view>

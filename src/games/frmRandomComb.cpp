@@ -5,8 +5,8 @@
 
 #include "core/numbers.h"
 #include "core/platform.h"
-#include "core/reports.h"
 #include "core/text.h"
+#include "sill/reports.h"
 
 #include <algorithm>
 #include <array>

@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include "core/reportList.h"
 #include "draws/lotoComb.h"
+#include "sill/reportList.h"
 
 #include <string>
 #include <vector>

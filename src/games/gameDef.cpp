@@ -3,12 +3,12 @@
 
 #include "games/gameDef.h"
 
-#include "core/desktop.h"
 #include "core/failure.h"
-#include "core/reports.h"
 #include "core/text.h"
 #include "files/xFile.h"
 #include "printing/modPrinter.h"
+#include "sill/desktop.h"
+#include "sill/reports.h"
 
 namespace boulix {
 

@@ -1,15 +1,15 @@
 // SPDX-FileCopyrightText: The Boulix developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "core/desktop.h"
-#include "core/frmProgress.h"
 #include "core/modMaths.h"
-#include "core/reports.h"
 #include "core/text.h"
 #include "games/coverSearch.h"
 #include "games/gameDef.h"
 #include "games/modComb.h"
 #include "games/modGame.h"
+#include "sill/desktop.h"
+#include "sill/frmProgress.h"
+#include "sill/reports.h"
 
 #include <cstdlib>
 

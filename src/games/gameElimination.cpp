@@ -1,14 +1,14 @@
 // SPDX-FileCopyrightText: The Boulix developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "core/appInfo.h"
-#include "core/desktop.h"
-#include "core/frmProgress.h"
 #include "core/globals.h"
 #include "core/modMaths.h"
 #include "eliminators/eliminators.h"
 #include "games/game.h"
 #include "games/gridJudge.h"
+#include "sill/appInfo.h"
+#include "sill/desktop.h"
+#include "sill/frmProgress.h"
 
 #include <algorithm>
 #include <array>

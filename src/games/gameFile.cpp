@@ -1,15 +1,15 @@
 // SPDX-FileCopyrightText: The Boulix developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "core/appInfo.h"
-#include "core/desktop.h"
-#include "core/frmProgress.h"
 #include "core/globals.h"
 #include "core/modMaths.h"
 #include "files/modFileSelector.h"
 #include "files/slotFile.h"
 #include "files/xFile.h"
 #include "games/game.h"
+#include "sill/appInfo.h"
+#include "sill/desktop.h"
+#include "sill/frmProgress.h"
 
 #include <optional>
 

@@ -1,15 +1,15 @@
 // SPDX-FileCopyrightText: The Boulix developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "core/desktop.h"
-#include "core/frmProgress.h"
 #include "core/modMaths.h"
 #include "core/platform.h"
-#include "core/reports.h"
-#include "core/selector.h"
 #include "core/text.h"
 #include "games/game.h"
 #include "games/gameDef.h"
+#include "sill/desktop.h"
+#include "sill/frmProgress.h"
+#include "sill/reports.h"
+#include "sill/selector.h"
 
 #include <algorithm>
 #include <array>

@@ -3,14 +3,14 @@
 
 #include "games/modGame.h"
 
-#include "core/desktop.h"
 #include "core/fileAccess.h"
 #include "core/platform.h"
-#include "core/reports.h"
 #include "core/settings.h"
 #include "core/text.h"
 #include "files/xFile.h"
 #include "games/predefinedSystems.h"
+#include "sill/desktop.h"
+#include "sill/reports.h"
 
 #include <algorithm>
 #include <bit>

@@ -4,10 +4,10 @@
 #include "printing/frmGridParam.h"
 
 #include "core/globals.h"
-#include "core/reports.h"
 #include "core/text.h"
 #include "printing/gridConfig.h"
 #include "printing/settingValue.h"
+#include "sill/reports.h"
 
 namespace boulix {
 

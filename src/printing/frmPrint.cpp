@@ -3,11 +3,11 @@
 
 #include "printing/frmPrint.h"
 
-#include "core/reports.h"
 #include "core/text.h"
 #include "printing/modPrinter.h"
 #include "printing/printerSystem.h"
 #include "printing/settingValue.h"
+#include "sill/reports.h"
 
 #include <algorithm>
 

@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include "core/upDown.h"
 #include "printing/slipRun.h"
+#include "sill/upDown.h"
 
 #include <array>
 #include <cstdint>

@@ -3,15 +3,15 @@
 
 #include "printing/modPrinter.h"
 
-#include "core/appInfo.h"
 #include "core/globals.h"
 #include "core/modMaths.h"
-#include "core/reports.h"
 #include "core/settings.h"
 #include "core/text.h"
 #include "printing/frmPrint.h"
 #include "printing/printerSystem.h"
 #include "printing/settingValue.h"
+#include "sill/appInfo.h"
+#include "sill/reports.h"
 
 #include <algorithm>
 #include <optional>

@@ -4,7 +4,7 @@
 #include "stats/modStats.h"
 
 #include "core/numberMask.h"
-#include "core/selector.h"
+#include "sill/selector.h"
 #include "stats/statTypes.h"
 
 namespace boulix::modStats {

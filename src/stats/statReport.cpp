@@ -3,15 +3,15 @@
 
 #include "stats/statReport.h"
 
-#include "core/appInfo.h"
 #include "core/fileAccess.h"
 #include "core/globals.h"
 #include "core/platform.h"
-#include "core/selector.h"
 #include "core/text.h"
 #include "draws/dbCombs.h"
 #include "files/modFileSelector.h"
 #include "printing/modPrinter.h"
+#include "sill/appInfo.h"
+#include "sill/selector.h"
 #include "stats/modStats.h"
 #include "stats/statStores.h"
 #include "stats/statTable.h"

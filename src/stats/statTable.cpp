@@ -4,8 +4,8 @@
 #include "stats/statTable.h"
 
 #include "core/modMaths.h"
-#include "core/selector.h"
 #include "core/text.h"
+#include "sill/selector.h"
 #include "stats/statStores.h"
 #include "stats/statTypes.h"
 

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "core/reportList.h"
+#include "sill/reportList.h"
 
 #include <cstdint>
 #include <string>

@@ -5,8 +5,8 @@
 
 #include "core/globals.h"
 #include "core/numberMask.h"
-#include "core/selector.h"
 #include "draws/dbCombs.h"
+#include "sill/selector.h"
 #include "stats/statStores.h"
 #include "stats/stretch.h"
 

@@ -3,14 +3,14 @@
 
 #include "winnings/rapport.h"
 
-#include "core/appInfo.h"
 #include "core/failure.h"
 #include "core/globals.h"
 #include "core/platform.h"
-#include "core/reports.h"
 #include "files/modFileSelector.h"
 #include "files/slotFile.h"
 #include "files/xFile.h"
+#include "sill/appInfo.h"
+#include "sill/reports.h"
 
 namespace boulix {
 

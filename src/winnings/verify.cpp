@@ -3,12 +3,12 @@
 
 // What the games and the base know about winning: three member functions of theirs.
 
-#include "core/desktop.h"
-#include "core/frmProgress.h"
 #include "core/globals.h"
 #include "core/numbers.h"
 #include "draws/dbCombs.h"
 #include "games/game.h"
+#include "sill/desktop.h"
+#include "sill/frmProgress.h"
 #include "winnings/drawWeights.h"
 #include "winnings/gameResult.h"
 #include "winnings/gameWin.h"

@@ -5,8 +5,8 @@
 
 #include "core/globals.h"
 #include "core/platform.h"
-#include "core/reports.h"
 #include "draws/dbCombs.h"
+#include "sill/reports.h"
 #include "workbench/windowFrame.h"
 
 namespace boulix {

@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include "core/numberBoard.h"
-#include "core/reportList.h"
+#include "sill/numberBoard.h"
+#include "sill/reportList.h"
 
 #include <cstdint>
 #include <string>

@@ -4,11 +4,11 @@
 #include "workbench/drawAnalysisPage.h"
 
 #include "core/globals.h"
-#include "core/numberBoard.h"
 #include "core/numbers.h"
 #include "core/platform.h"
 #include "core/text.h"
 #include "draws/dbCombs.h"
+#include "sill/numberBoard.h"
 #include "stats/drawAnalysis.h"
 
 #include <memory>

@@ -3,9 +3,9 @@
 
 #pragma once
 
-#include "core/reportList.h"
-#include "core/upDown.h"
 #include "printing/canvas.h"
+#include "sill/reportList.h"
+#include "sill/upDown.h"
 
 #include <array>
 #include <cstdint>

@@ -6,10 +6,10 @@
 #include "core/globals.h"
 #include "core/modMaths.h"
 #include "core/numbers.h"
-#include "core/reports.h"
-#include "core/selector.h"
 #include "core/text.h"
 #include "eliminators/eliminators.h"
+#include "sill/reports.h"
+#include "sill/selector.h"
 
 #include <vector>
 

@@ -5,11 +5,11 @@
 
 #include "core/globals.h"
 #include "core/numbers.h"
-#include "core/reports.h"
 #include "core/text.h"
 #include "draws/dbCombs.h"
 #include "files/modFileSelector.h"
 #include "forecasts/pronostics.h"
+#include "sill/reports.h"
 #include "workbench/frmTestProno.h"
 
 #include <algorithm>

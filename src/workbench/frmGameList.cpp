@@ -3,9 +3,9 @@
 
 #include "workbench/frmGameList.h"
 
-#include "core/reports.h"
 #include "files/xFile.h"
 #include "games/modGame.h"
+#include "sill/reports.h"
 
 namespace boulix {
 

@@ -3,15 +3,15 @@
 
 #include "workbench/frmMain.h"
 
-#include "core/appInfo.h"
-#include "core/desktop.h"
 #include "core/globals.h"
-#include "core/help.h"
-#include "core/modMain.h"
 #include "core/platform.h"
-#include "core/reports.h"
 #include "draws/dbCombs.h"
 #include "files/slotFile.h"
+#include "sill/appInfo.h"
+#include "sill/desktop.h"
+#include "sill/help.h"
+#include "sill/modMain.h"
+#include "sill/reports.h"
 
 #include <functional>
 

@@ -3,15 +3,15 @@
 
 #include "workbench/frmTestProno.h"
 
-#include "core/appInfo.h"
 #include "core/failure.h"
 #include "core/globals.h"
 #include "core/numbers.h"
 #include "core/platform.h"
-#include "core/reports.h"
 #include "core/text.h"
 #include "draws/dbCombs.h"
 #include "forecasts/pronostics.h"
+#include "sill/appInfo.h"
+#include "sill/reports.h"
 
 #include <algorithm>
 

@@ -3,14 +3,14 @@
 
 #include "workbench/gameDesign.h"
 
-#include "core/desktop.h"
 #include "core/globals.h"
 #include "core/numbers.h"
-#include "core/reports.h"
 #include "core/text.h"
 #include "draws/dbCombs.h"
 #include "forecasts/pronostics.h"
 #include "games/modGame.h"
+#include "sill/desktop.h"
+#include "sill/reports.h"
 #include "stats/modStats.h"
 #include "stats/statStores.h"
 #include "workbench/gridList.h"

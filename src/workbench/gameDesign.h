@@ -3,11 +3,11 @@
 
 #pragma once
 
-#include "core/numberBoard.h"
-#include "core/reportList.h"
-#include "core/selector.h"
 #include "games/game.h"
 #include "games/modGame.h"
+#include "sill/numberBoard.h"
+#include "sill/reportList.h"
+#include "sill/selector.h"
 #include "workbench/systemMaker.h"
 
 #include <array>

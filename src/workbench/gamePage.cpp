@@ -3,14 +3,14 @@
 
 #include "workbench/gamePage.h"
 
-#include "core/appInfo.h"
-#include "core/desktop.h"
-#include "core/frmProgress.h"
 #include "core/globals.h"
 #include "core/modMaths.h"
-#include "core/reports.h"
 #include "core/text.h"
 #include "games/game.h"
+#include "sill/appInfo.h"
+#include "sill/desktop.h"
+#include "sill/frmProgress.h"
+#include "sill/reports.h"
 #include "workbench/eliminatorPage.h"
 #include "workbench/gridList.h"
 

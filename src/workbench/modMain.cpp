@@ -1,16 +1,16 @@
 // SPDX-FileCopyrightText: The Boulix developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "core/modMain.h"
+#include "sill/modMain.h"
 
-#include "core/appInfo.h"
-#include "core/desktop.h"
 #include "core/globals.h"
 #include "core/modMaths.h"
 #include "core/platform.h"
-#include "core/reports.h"
 #include "core/text.h"
 #include "draws/dbCombs.h"
+#include "sill/appInfo.h"
+#include "sill/desktop.h"
+#include "sill/reports.h"
 #include "workbench/frmMain.h"
 #include "workbench/startUpSteps.h"
 

@@ -3,10 +3,10 @@
 
 #pragma once
 
-#include "core/numberBoard.h"
-#include "core/reportList.h"
-#include "core/selector.h"
-#include "core/upDown.h"
+#include "sill/numberBoard.h"
+#include "sill/reportList.h"
+#include "sill/selector.h"
+#include "sill/upDown.h"
 #include "stats/frmGraph.h"
 #include "stats/graphSettings.h"
 

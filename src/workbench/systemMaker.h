@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "core/upDown.h"
+#include "sill/upDown.h"
 
 #include <cstdint>
 #include <functional>

@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include "core/frmProgress.h"
-#include "core/upDown.h"
+#include "sill/frmProgress.h"
+#include "sill/upDown.h"
 #include "winnings/gameWin.h"
 
 #include <array>

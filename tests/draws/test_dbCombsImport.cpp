@@ -3,7 +3,7 @@
 
 #include "draws/drawsTest.h"
 
-#include "core/modMain.h"
+#include "sill/modMain.h"
 
 #include <algorithm>
 #include <cmath>

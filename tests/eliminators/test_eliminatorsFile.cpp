@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "eliminators/eliminators.h"
 
-#include "core/appInfo.h"
 #include "core/globals.h"
 #include "files/slotFile.h"
+#include "sill/appInfo.h"
 #include "support/boulixTest.h"
 
 #include <filesystem>

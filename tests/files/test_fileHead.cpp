@@ -3,10 +3,10 @@
 
 #include "files/fileHead.h"
 
-#include "core/appInfo.h"
 #include "core/globals.h"
 #include "core/text.h"
 #include "files/slotFile.h"
+#include "sill/appInfo.h"
 #include "support/boulixTest.h"
 
 #include <random>

@@ -3,9 +3,9 @@
 
 #include "files/modFileSelector.h"
 
-#include "core/modMain.h"
 #include "files/slotFile.h"
 #include "files/xFile.h"
+#include "sill/modMain.h"
 #include "support/boulixTest.h"
 
 namespace boulix {

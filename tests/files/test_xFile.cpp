@@ -3,9 +3,9 @@
 
 #include "files/xFile.h"
 
-#include "core/appInfo.h"
 #include "core/globals.h"
 #include "files/slotFile.h"
+#include "sill/appInfo.h"
 #include "support/boulixTest.h"
 
 #include <filesystem>

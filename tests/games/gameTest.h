@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "core/selector.h"
 #include "games/game.h"
+#include "sill/selector.h"
 #include "support/boulixTest.h"
 
 #include <vector>

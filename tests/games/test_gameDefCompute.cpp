@@ -3,8 +3,8 @@
 #include "games/gameDef.h"
 
 #include "core/modMaths.h"
-#include "games/modGame.h"
 #include "games/literalCompute.h"
+#include "games/modGame.h"
 #include "support/boulixTest.h"
 
 #include <set>

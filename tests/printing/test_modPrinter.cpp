@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "printing/modPrinter.h"
 
-#include "core/appInfo.h"
 #include "core/globals.h"
 #include "printing/frmPrint.h"
+#include "sill/appInfo.h"
 #include "support/boulixTest.h"
 
 namespace boulix {

@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "support/boulixTest.h"
 
-#include "core/appInfo.h"
 #include "core/globals.h"
-#include "core/modMain.h"
 #include "core/modMaths.h"
 #include "printing/modPrinter.h"
+#include "sill/appInfo.h"
+#include "sill/modMain.h"
 
 namespace boulix::testing_support {
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "core/frmNbrSelector.h"
+#include "sill/frmNbrSelector.h"
 
 #include <cstdint>
 #include <functional>

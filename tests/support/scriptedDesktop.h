@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "core/desktop.h"
-#include "core/frmProgress.h"
+#include "sill/desktop.h"
+#include "sill/frmProgress.h"
 #include "support/numberScript.h"
 
 #include <cstdint>

@@ -5,9 +5,9 @@
 #include "support/locations.h"
 #include "tour/chapters.h"
 #include "tour/tour.h"
-#include "ui/numberBoardView.h"
-#include "ui/reportView.h"
-#include "ui/upDownView.h"
+#include "ui/widgets/numberBoardView.h"
+#include "ui/widgets/reportView.h"
+#include "ui/widgets/upDownView.h"
 #include "workbench/frmMain.h"
 
 #include <QAction>

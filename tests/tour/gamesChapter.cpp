@@ -7,8 +7,8 @@
 #include "support/files.h"
 #include "tour/chapters.h"
 #include "tour/tour.h"
-#include "ui/numberBoardView.h"
-#include "ui/reportView.h"
+#include "ui/widgets/numberBoardView.h"
+#include "ui/widgets/reportView.h"
 #include "workbench/frmMain.h"
 
 #include <QAction>

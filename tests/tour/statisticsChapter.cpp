@@ -4,9 +4,9 @@
 #include "core/globals.h"
 #include "tour/chapters.h"
 #include "tour/tour.h"
-#include "ui/numberBall.h"
-#include "ui/numberBoardView.h"
-#include "ui/reportView.h"
+#include "ui/widgets/numberBall.h"
+#include "ui/widgets/numberBoardView.h"
+#include "ui/widgets/reportView.h"
 #include "workbench/frmMain.h"
 
 #include <QAction>

@@ -5,8 +5,8 @@
 
 #include "core/text.h"
 #include "support/locations.h"
-#include "ui/numberBoardView.h"
-#include "ui/reportView.h"
+#include "ui/widgets/numberBoardView.h"
+#include "ui/widgets/reportView.h"
 
 #include <QAction>
 #include <QFile>

@@ -6,7 +6,7 @@
 #include "support/files.h"
 #include "tour/chapters.h"
 #include "tour/tour.h"
-#include "ui/reportView.h"
+#include "ui/widgets/reportView.h"
 #include "winnings/rapport.h"
 #include "workbench/frmMain.h"
 

@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "core/frmProgress.h"
 #include "core/globals.h"
 #include "draws/dbCombs.h"
 #include "games/game.h"
+#include "sill/frmProgress.h"
 #include "support/boulixTest.h"
 #include "support/lottery.h"
 #include "winnings/gameResult.h"

@@ -3,10 +3,10 @@
 
 // The database page: its list, its board, its six buttons.
 
-#include "workbench/databasePage.h"
 #include "core/globals.h"
 #include "draws/dbCombs.h"
 #include "support/boulixTest.h"
+#include "workbench/databasePage.h"
 #include "workbench/frmMain.h"
 
 #include <string>

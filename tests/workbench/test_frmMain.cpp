@@ -3,11 +3,11 @@
 
 // The rules of the main window: tabs, status, quitting, refills under their handler.
 
-#include "workbench/frmMain.h"
 #include "core/globals.h"
-#include "core/modMain.h"
 #include "draws/dbCombs.h"
+#include "sill/modMain.h"
 #include "support/boulixTest.h"
+#include "workbench/frmMain.h"
 
 #include <limits>
 

@@ -3,9 +3,7 @@
 
 // The start of the program: log, identity, the order of the initialisations, a failed start.
 
-#include "core/appInfo.h"
 #include "core/globals.h"
-#include "core/modMain.h"
 #include "core/modMaths.h"
 #include "core/text.h"
 #include "draws/dbCombs.h"
@@ -14,6 +12,8 @@
 #include "games/modGame.h"
 #include "printing/gridConfig.h"
 #include "printing/modPrinter.h"
+#include "sill/appInfo.h"
+#include "sill/modMain.h"
 #include "stats/graphSettings.h"
 #include "support/boulixTest.h"
 #include "winnings/rapport.h"

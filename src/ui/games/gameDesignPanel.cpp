@@ -3,13 +3,13 @@
 
 #include "ui/games/gameDesignPanel.h"
 
-#include "core/reports.h"
+#include "sill/reports.h"
 #include "ui/games/systemMakerPanel.h"
-#include "ui/numberBoardView.h"
-#include "ui/qtText.h"
-#include "ui/reportView.h"
-#include "ui/theme.h"
-#include "ui/toolbar.h"
+#include "ui/style/theme.h"
+#include "ui/widgets/numberBoardView.h"
+#include "ui/widgets/qtText.h"
+#include "ui/widgets/reportView.h"
+#include "ui/widgets/toolbar.h"
 #include "workbench/gameDesign.h"
 
 #include <QCheckBox>

@@ -4,10 +4,10 @@
 #include "ui/games/gameListDialog.h"
 
 #include "ui/games/displayGameDialog.h"
-#include "ui/qtText.h"
-#include "ui/reportView.h"
-#include "ui/theme.h"
-#include "ui/toolbar.h"
+#include "ui/style/theme.h"
+#include "ui/widgets/qtText.h"
+#include "ui/widgets/reportView.h"
+#include "ui/widgets/toolbar.h"
 
 #include <QFormLayout>
 #include <QGroupBox>

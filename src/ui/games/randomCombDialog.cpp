@@ -4,9 +4,9 @@
 #include "ui/games/randomCombDialog.h"
 
 #include "games/frmRandomComb.h"
-#include "ui/qtText.h"
-#include "ui/reportView.h"
-#include "ui/theme.h"
+#include "ui/style/theme.h"
+#include "ui/widgets/qtText.h"
+#include "ui/widgets/reportView.h"
 
 #include <QHBoxLayout>
 #include <QLabel>

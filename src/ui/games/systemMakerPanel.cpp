@@ -3,11 +3,11 @@
 
 #include "ui/games/systemMakerPanel.h"
 
-#include "core/reports.h"
-#include "ui/qtText.h"
-#include "ui/theme.h"
-#include "ui/toolbar.h"
-#include "ui/upDownField.h"
+#include "sill/reports.h"
+#include "ui/style/theme.h"
+#include "ui/widgets/qtText.h"
+#include "ui/widgets/toolbar.h"
+#include "ui/widgets/upDownField.h"
 #include "workbench/gameDesign.h"
 
 #include <QGridLayout>

@@ -3,11 +3,11 @@
 
 #include "ui/printing/gridParamDialog.h"
 
-#include "core/reports.h"
 #include "printing/frmGridParam.h"
-#include "ui/okCancelRow.h"
-#include "ui/qtText.h"
-#include "ui/theme.h"
+#include "sill/reports.h"
+#include "ui/style/theme.h"
+#include "ui/widgets/okCancelRow.h"
+#include "ui/widgets/qtText.h"
 
 #include <QFormLayout>
 #include <QLabel>

@@ -3,12 +3,12 @@
 
 #include "ui/printing/gridPreviewDialog.h"
 
-#include "core/reports.h"
 #include "printing/frmPrintGridPreview.h"
+#include "sill/reports.h"
 #include "ui/printing/slipView.h"
-#include "ui/qtText.h"
-#include "ui/theme.h"
-#include "ui/toolbar.h"
+#include "ui/style/theme.h"
+#include "ui/widgets/qtText.h"
+#include "ui/widgets/toolbar.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>

@@ -3,7 +3,7 @@
 
 #include "ui/printing/paintedCanvas.h"
 
-#include "ui/qtText.h"
+#include "ui/widgets/qtText.h"
 
 #include <QFontMetricsF>
 #include <QPaintDevice>

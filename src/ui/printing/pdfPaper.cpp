@@ -4,7 +4,7 @@
 #include "ui/printing/pdfPaper.h"
 
 #include "core/failure.h"
-#include "ui/qtText.h"
+#include "ui/widgets/qtText.h"
 
 #include <QPageLayout>
 

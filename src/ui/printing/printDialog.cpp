@@ -3,10 +3,10 @@
 
 #include "ui/printing/printDialog.h"
 
-#include "core/reports.h"
 #include "printing/frmPrint.h"
-#include "ui/qtText.h"
-#include "ui/theme.h"
+#include "sill/reports.h"
+#include "ui/style/theme.h"
+#include "ui/widgets/qtText.h"
 
 #include <QButtonGroup>
 #include <QComboBox>

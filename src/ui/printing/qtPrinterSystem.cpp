@@ -6,7 +6,7 @@
 #include "core/failure.h"
 #include "core/text.h"
 #include "ui/printing/pdfPaper.h"
-#include "ui/qtText.h"
+#include "ui/widgets/qtText.h"
 
 #include <QPrinterInfo>
 #include <QProcess>

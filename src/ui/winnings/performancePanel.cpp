@@ -3,10 +3,10 @@
 
 #include "ui/winnings/performancePanel.h"
 
-#include "ui/iconLoader.h"
-#include "ui/qtText.h"
-#include "ui/theme.h"
-#include "ui/toolbar.h"
+#include "ui/style/iconLoader.h"
+#include "ui/style/theme.h"
+#include "ui/widgets/qtText.h"
+#include "ui/widgets/toolbar.h"
 #include "ui/winnings/rankTable.h"
 #include "workbench/winningsPage.h"
 

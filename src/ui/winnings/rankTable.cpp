@@ -3,7 +3,7 @@
 
 #include "ui/winnings/rankTable.h"
 
-#include "ui/theme.h"
+#include "ui/style/theme.h"
 #include "workbench/winningsPage.h"
 
 #include <QGridLayout>

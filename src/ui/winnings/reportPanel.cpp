@@ -3,9 +3,9 @@
 
 #include "ui/winnings/reportPanel.h"
 
-#include "ui/qtText.h"
-#include "ui/theme.h"
-#include "ui/toolbar.h"
+#include "ui/style/theme.h"
+#include "ui/widgets/qtText.h"
+#include "ui/widgets/toolbar.h"
 #include "ui/winnings/rankTable.h"
 #include "workbench/winningsPage.h"
 

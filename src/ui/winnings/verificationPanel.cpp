@@ -3,11 +3,11 @@
 
 #include "ui/winnings/verificationPanel.h"
 
-#include "core/reports.h"
-#include "ui/numberBall.h"
-#include "ui/qtText.h"
-#include "ui/theme.h"
-#include "ui/upDownField.h"
+#include "sill/reports.h"
+#include "ui/style/theme.h"
+#include "ui/widgets/numberBall.h"
+#include "ui/widgets/qtText.h"
+#include "ui/widgets/upDownField.h"
 #include "ui/winnings/rankTable.h"
 #include "workbench/winningsPage.h"
 

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "ui/listDialog.h"
+#include "ui/widgets/listDialog.h"
 
 namespace boulix {
 

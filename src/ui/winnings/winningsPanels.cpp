@@ -4,7 +4,7 @@
 #include "ui/winnings/winningsPanels.h"
 
 #include "ui/games/randomCombDialog.h"
-#include "ui/qtText.h"
+#include "ui/widgets/qtText.h"
 #include "ui/winnings/performancePanel.h"
 #include "ui/winnings/rankTable.h"
 #include "ui/winnings/reportPanel.h"

@@ -4,8 +4,8 @@
 #include "core/globals.h"
 #include "forecasts/pronostics.h"
 #include "keep.h"
-#include "ui/forecastTab.h"
-#include "ui/testPronoDialog.h"
+#include "ui/forecasts/forecastTab.h"
+#include "ui/forecasts/testPronoDialog.h"
 #include "workbench/forecastPage.h"
 #include "workbench/frmTestProno.h"
 

@@ -4,8 +4,8 @@
 #include "keep.h"
 #include "stats/frmGraph.h"
 #include "stats/graphSettings.h"
-#include "ui/graph/graphParamDialog.h"
-#include "ui/graph/graphWindow.h"
+#include "ui/stats/graphParamDialog.h"
+#include "ui/stats/graphWindow.h"
 
 #include <QString>
 

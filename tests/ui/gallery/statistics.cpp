@@ -6,8 +6,8 @@
 #include "stats/graphSettings.h"
 #include "stats/statStores.h"
 #include "stats/statTypes.h"
-#include "ui/graph/graphWindow.h"
-#include "ui/mainWindow.h"
+#include "ui/frame/mainWindow.h"
+#include "ui/stats/graphWindow.h"
 #include "workbench/frmMain.h"
 
 #include <QListWidget>

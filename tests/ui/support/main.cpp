@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Boulix developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "ui/application.h"
+#include "ui/frame/application.h"
 
 #include <gtest/gtest.h>
 

@@ -3,9 +3,9 @@
 
 #include "ui/support/screenTest.h"
 
-#include "core/appInfo.h"
 #include "core/globals.h"
-#include "core/modMain.h"
+#include "sill/appInfo.h"
+#include "sill/modMain.h"
 #include "winnings/rapport.h"
 
 #include <QtTest/QTest>

@@ -5,8 +5,8 @@
 
 #include "support/fakePlatform.h"
 #include "support/recordingPrinters.h"
-#include "ui/mainWindow.h"
-#include "ui/qtDesktop.h"
+#include "ui/frame/mainWindow.h"
+#include "ui/frame/qtDesktop.h"
 #include "ui/support/robot.h"
 
 #include <gtest/gtest.h>

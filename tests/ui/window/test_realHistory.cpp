@@ -4,8 +4,8 @@
 #include "core/globals.h"
 #include "draws/dbCombs.h"
 #include "support/locations.h"
-#include "ui/reportView.h"
 #include "ui/support/screenTest.h"
+#include "ui/widgets/reportView.h"
 #include "workbench/databasePage.h"
 
 #include <QAction>

@@ -1,0 +1,106 @@
+// SPDX-FileCopyrightText: The Boulix developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "ui/frame/fileDialogs.h"
+
+#include "ui/frame/messageBox.h"
+#include "ui/widgets/qtText.h"
+
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QHeaderView>
+#include <QTreeView>
+
+namespace boulix::fileDialogs {
+
+namespace {
+
+/// The patterns of one filter, parted by blanks as Qt wants them.
+QString qtPatterns(const QString &patterns) {
+    QStringList list = patterns.split(QLatin1Char(';'), Qt::SkipEmptyParts);
+    for (QString &pattern : list) {
+        pattern = pattern.trimmed();
+        if (pattern == QLatin1String("*.*"))
+            pattern = QStringLiteral("*");
+    }
+    return list.join(QLatin1Char(' '));
+}
+
+/// The description without the pattern that it repeats in brackets at its end.
+QString bareDescription(const QString &description) {
+    const qsizetype bracket = description.lastIndexOf(QLatin1Char('('));
+    if (bracket < 0 || !description.endsWith(QLatin1Char(')')))
+        return description;
+    return description.left(bracket).trimmed();
+}
+
+void prepare(QFileDialog &dialog, const FileQuestion &question) {
+    dialog.setObjectName(QStringLiteral("comDiag"));
+    dialog.setWindowTitle(toQt(question.title));
+    dialog.setDirectory(toQt(question.folder));
+    dialog.setNameFilters(nameFilters(question.filter));
+    // Where the dialog is Qt's own, its columns shall be as wide as what they say.
+    if (auto *files = dialog.findChild<QTreeView *>(QStringLiteral("treeView"))) {
+        dialog.resize(760, 480);
+        files->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+        files->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+    }
+}
+
+QString chosenFile(QFileDialog &dialog) {
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return {};
+    return QDir::toNativeSeparators(dialog.selectedFiles().constFirst());
+}
+
+} // namespace
+
+QStringList nameFilters(const std::string &filter) {
+    const QStringList parts = toQt(filter).split(QLatin1Char('|'));
+    QStringList filters;
+    for (qsizetype i = 0; i + 1 < parts.size(); i += 2)
+        filters << QStringLiteral("%1 (%2)").arg(bareDescription(parts[i].trimmed()),
+                                                 qtPatterns(parts[i + 1]));
+    return filters;
+}
+
+QString onlyExtension(const std::string &filter) {
+    const QStringList parts = toQt(filter).split(QLatin1Char('|'));
+    if (parts.size() != 2)
+        return {};
+    const QString pattern = parts[1].trimmed();
+    const QString extension = pattern.mid(2);
+    const bool single = pattern.startsWith(QLatin1String("*.")) &&
+                        !extension.contains(QLatin1Char('*')) &&
+                        !extension.contains(QLatin1Char(';'));
+    return single ? extension : QString();
+}
+
+std::string open(QWidget *parent, const FileQuestion &question) {
+    QFileDialog dialog(parent);
+    prepare(dialog, question);
+    dialog.setAcceptMode(QFileDialog::AcceptOpen);
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    return fromQt(chosenFile(dialog));
+}
+
+std::string save(QWidget *parent, const FileQuestion &question) {
+    QFileDialog dialog(parent);
+    prepare(dialog, question);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.setOption(QFileDialog::DontConfirmOverwrite);
+    dialog.setDefaultSuffix(onlyExtension(question.filter));
+    while (true) {
+        const QString file = chosenFile(dialog);
+        const QString folder = QFileInfo(file).absolutePath();
+        if (file.isEmpty() || QDir(folder).exists())
+            return fromQt(file);
+        const std::string text =
+            "Le dossier " + fromQt(QDir::toNativeSeparators(folder)) + " n'existe pas.";
+        runMessageBox(parent, text, Icon::information, question.title);
+    }
+}
+
+} // namespace boulix::fileDialogs

@@ -1,0 +1,102 @@
+// SPDX-FileCopyrightText: The Boulix developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "ui/frame/frmSelDate.h"
+
+#include "core/platform.h"
+#include "ui/style/iconLoader.h"
+#include "ui/style/theme.h"
+#include "ui/widgets/upDownView.h"
+
+#include <QCalendarWidget>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLocale>
+#include <QPushButton>
+#include <QTextCharFormat>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace boulix {
+
+frmSelDate::frmSelDate(QWidget *parent)
+    : QDialog(parent, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint),
+      mvwDate(new QCalendarWidget(this)),
+      lblTirageTitle(new QLabel(QStringLiteral("Tirage"), this)), lblTirage(new QLabel(this)),
+      updTirage(new UpDownView(this)),
+      cmdOK(new QPushButton(QStringLiteral("&Utiliser la date définie"), this)) {
+    setObjectName(QStringLiteral("frmSelDate"));
+    setWindowTitle(QStringLiteral("Sélection de la date"));
+    mvwDate->setObjectName(QStringLiteral("mvwDate"));
+    lblTirageTitle->setObjectName(QStringLiteral("lblTirageTitle"));
+    lblTirage->setObjectName(QStringLiteral("lblTirage"));
+    updTirage->setObjectName(QStringLiteral("updTirage"));
+    updTirage->setAccessibleName(QStringLiteral("Tirage du jour"));
+    cmdOK->setObjectName(QStringLiteral("cmdOK"));
+    makeCalendar();
+    updTirage->setBuddy(lblTirage);
+    updTirage->setRange(1, 2);
+    updTirage->setValue(1);
+    cmdOK->setDefault(true);
+    connect(cmdOK, &QPushButton::clicked, this, &frmSelDate::confirm);
+    layOut();
+}
+
+void frmSelDate::makeCalendar() {
+    const CalendarDay today = calendarDay(platform().today());
+    mvwDate->setLocale(QLocale(QLocale::French, QLocale::France));
+    mvwDate->setFirstDayOfWeek(Qt::Monday);
+    mvwDate->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+    mvwDate->setSelectedDate(QDate(today.year, today.month, today.day));
+    // Draws fall on any day: the calendar has no days of another colour.
+    const QTextCharFormat plain = mvwDate->weekdayTextFormat(Qt::Monday);
+    mvwDate->setWeekdayTextFormat(Qt::Saturday, plain);
+    mvwDate->setWeekdayTextFormat(Qt::Sunday, plain);
+    giveArrow(QStringLiteral("qt_calendar_prevmonth"), QStringLiteral("previous"));
+    giveArrow(QStringLiteral("qt_calendar_nextmonth"), QStringLiteral("next"));
+    const int cell = fontMetrics().height() * 9 / 4;
+    mvwDate->setMinimumSize(8 * cell, 8 * cell);
+}
+
+/// The buttons of Qt's calendar stand on the highlight colour; they get the family's arrows.
+void frmSelDate::giveArrow(const QString &button, const QString &icon) {
+    auto *arrow = mvwDate->findChild<QToolButton *>(button);
+    if (!arrow)
+        return;
+    const QSize size(20, 20);
+    arrow->setIcon(loadIcon(icon).pixmap(size, devicePixelRatioF(), QIcon::Selected));
+    arrow->setIconSize(size);
+}
+
+void frmSelDate::layOut() {
+    lblTirage->setFrameStyle(int(QFrame::StyledPanel) | int(QFrame::Sunken));
+    lblTirage->setAlignment(Qt::AlignCenter);
+    lblTirage->setMinimumWidth(fontMetrics().averageCharWidth() * 5);
+
+    auto *draw = new QHBoxLayout;
+    draw->setSpacing(theme::gap);
+    draw->addWidget(lblTirageTitle);
+    draw->addWidget(lblTirage);
+    draw->addWidget(updTirage);
+    draw->addStretch();
+    draw->addWidget(cmdOK);
+
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(theme::margin, theme::margin, theme::margin, theme::margin);
+    column->setSpacing(theme::margin);
+    column->addWidget(mvwDate, 1);
+    column->addLayout(draw);
+}
+
+DrawDate frmSelDate::answer() const {
+    const QDate day = mvwDate->selectedDate();
+    return {dateOf({day.year(), day.month(), day.day()}),
+            static_cast<std::int16_t>(updTirage->value())};
+}
+
+void frmSelDate::confirm() {
+    tag_ = QLocale().toString(mvwDate->selectedDate(), QLocale::ShortFormat);
+    hide();
+}
+
+} // namespace boulix

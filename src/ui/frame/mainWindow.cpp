@@ -1,0 +1,198 @@
+// SPDX-FileCopyrightText: The Boulix developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "ui/frame/mainWindow.h"
+
+#include "core/globals.h"
+#include "printing/frmGridParam.h"
+#include "printing/modPrinter.h"
+#include "sill/appInfo.h"
+#include "sill/reports.h"
+#include "stats/frmGraph.h"
+#include "ui/draws/databaseTab.h"
+#include "ui/eliminators/eliminatorTab.h"
+#include "ui/forecasts/forecastTab.h"
+#include "ui/frame/frmAbout.h"
+#include "ui/printing/gridParamDialog.h"
+#include "ui/stats/drawAnalysisTab.h"
+#include "ui/stats/graphParamDialog.h"
+#include "ui/stats/statisticsTab.h"
+#include "ui/style/iconLoader.h"
+#include "ui/style/theme.h"
+#include "ui/widgets/qtText.h"
+#include "ui/workbench/gameTab.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QLabel>
+#include <QMenuBar>
+#include <QStatusBar>
+#include <QTabBar>
+#include <QTabWidget>
+
+namespace boulix {
+
+namespace {
+
+/// A twentieth of a point on the screen, enlarged for today's fonts and toolbars.
+constexpr double pixelsPerTwip = 1.35 / 15;
+constexpr QSize sizeInTwips{8685, 7560};
+
+/// The captions of the tabs with their mnemonics, and their icons.
+struct TabLook {
+    QString caption;
+    QString icon;
+};
+
+std::array<TabLook, frmMain::tabCount> tabLooks() {
+    return {{{QStringLiteral("&Base de données"), QStringLiteral("database")},
+             {QStringLiteral("S&tatistiques"), QStringLiteral("statistics")},
+             {QStringLiteral("A&nalyse par tirage"), QStringLiteral("analysis")},
+             {QStringLiteral("&Eliminateurs"), QStringLiteral("eliminate")},
+             {QStringLiteral("&Jeux"), QStringLiteral("game")},
+             {QStringLiteral("Pr&onostiques"), QStringLiteral("forecast")}}};
+}
+
+} // namespace
+
+MainWindow::MainWindow(frmMain &main) : main_(main), TabStrip(new QTabWidget(this)) {
+    setObjectName(QStringLiteral("frmMain"));
+    setCentralWidget(TabStrip);
+    makePages();
+    makeMenus();
+    makeStatusBar();
+    main_.view(this);
+    refresh();
+    findChild<QWidget *>(QStringLiteral("lvwDBcomb"))->setFocus();
+    resize(sizeInTwips * pixelsPerTwip);
+}
+
+MainWindow::~MainWindow() {
+    main_.view(nullptr);
+}
+
+QWidget *MainWindow::makePage(int index) {
+    switch (index) {
+    case 0:
+        return new DatabaseTab(main_.database, TabStrip);
+    case 1:
+        return new StatisticsTab(main_.statistics, TabStrip);
+    case 2:
+        return new DrawAnalysisTab(main_.analysis, TabStrip);
+    case 3:
+        return new EliminatorTab(main_.elimination, TabStrip);
+    case 4:
+        return new GameTab(main_.games, main_.winnings, TabStrip);
+    case 5:
+        return new ForecastTab(main_.forecasts, TabStrip);
+    default:
+        return new QWidget(TabStrip);
+    }
+}
+
+void MainWindow::makePages() {
+    TabStrip->setObjectName(QStringLiteral("TabStrip"));
+    TabStrip->setDocumentMode(true);
+    TabStrip->setIconSize({18, 18});
+    TabStrip->setUsesScrollButtons(false); // no tab is scrolled away or cut short
+    TabStrip->setElideMode(Qt::ElideNone);
+    const auto looks = tabLooks();
+    for (std::size_t i = 0; i < looks.size(); ++i) {
+        QWidget *page = makePage(static_cast<int>(i));
+        page->setObjectName(QStringLiteral("frameTab_%1").arg(i));
+        const int tab = TabStrip->addTab(page, loadIcon(looks[i].icon), looks[i].caption);
+        TabStrip->setTabToolTip(tab, QString::fromUtf8(frmMain::tabs[i].toolTip));
+    }
+    connect(TabStrip, &QTabWidget::currentChanged, this,
+            [this](int index) { runCommand([&] { main_.clickTab(index + 1); }); });
+}
+
+QAction *MainWindow::addEntry(QMenu &menu, const QString &name, const QString &caption,
+                              const QString &icon) {
+    QAction *entry = menu.addAction(loadIcon(icon), caption);
+    entry->setObjectName(name);
+    return entry;
+}
+
+void MainWindow::makeMenus() {
+    QMenu *file = menuBar()->addMenu(QStringLiteral("&Fichier"));
+    file->setObjectName(QStringLiteral("mnuFile"));
+    QAction *canvas = addEntry(*file, QStringLiteral("mnuPrintCanvas"),
+                               QStringLiteral("&Imprimer le canevas"), QStringLiteral("grid-slip"));
+    file->addSeparator();
+    QAction *quit = addEntry(*file, QStringLiteral("mnuExit"), QStringLiteral("&Quitter"),
+                             QStringLiteral("quit"));
+    quit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
+    connect(quit, &QAction::triggered, this, &QWidget::close);
+
+    QMenu *config = menuBar()->addMenu(QStringLiteral("&Configuration"));
+    config->setObjectName(QStringLiteral("mnuConfig"));
+    QAction *printer =
+        addEntry(*config, QStringLiteral("mnuPrinter"), QStringLiteral("Paramètres d'&impression"),
+                 QStringLiteral("printer"));
+    QAction *grid =
+        addEntry(*config, QStringLiteral("mnuGrid"), QStringLiteral("Paramètres des &grilles"),
+                 QStringLiteral("grid-slip"));
+    QAction *graph =
+        addEntry(*config, QStringLiteral("mnuGraphParam"),
+                 QStringLiteral("Paramètres des g&raphiques"), QStringLiteral("chart"));
+    connect(canvas, &QAction::triggered, this, [] { runCommand(modPrinter::printCanvas); });
+    connect(printer, &QAction::triggered, this, [] { runCommand(modPrinter::printerDialog); });
+    connect(grid, &QAction::triggered, this, &MainWindow::showGridParam);
+    connect(graph, &QAction::triggered, this, &MainWindow::showGraphParam);
+
+    QMenu *help = menuBar()->addMenu(QStringLiteral("&?"));
+    help->setObjectName(QStringLiteral("mnuHlp"));
+    QAction *pages =
+        addEntry(*help, QStringLiteral("mnuHelp"), QStringLiteral("&Aide"), QStringLiteral("help"));
+    pages->setShortcut(QKeySequence(Qt::Key_F1));
+    connect(pages, &QAction::triggered, this, [this] { runCommand([this] { main_.showHelp(); }); });
+    QAction *about = addEntry(*help, QStringLiteral("mnuAbout"), QStringLiteral("A &propos"),
+                              QStringLiteral("about"));
+    connect(about, &QAction::triggered, this, &MainWindow::showAbout);
+}
+
+void MainWindow::makeStatusBar() {
+    auto *bar = new QStatusBar(this);
+    bar->setObjectName(QStringLiteral("StatusBar"));
+    setStatusBar(bar);
+    for (std::size_t i = 0; i < panels_.size(); ++i) {
+        panels_[i] = new QLabel(bar);
+        panels_[i]->setObjectName(QStringLiteral("StatusBar_%1").arg(i + 1));
+        panels_[i]->setContentsMargins(theme::gap, 0, theme::gap, 0);
+        bar->addWidget(panels_[i]);
+    }
+}
+
+void MainWindow::refresh() {
+    setWindowTitle(toQt(main_.caption));
+    for (std::size_t i = 0; i < panels_.size(); ++i) {
+        panels_[i]->setText(toQt(main_.StatusBar[i]));
+        panels_[i]->setVisible(!main_.StatusBar[i].empty());
+    }
+    TabStrip->setCurrentIndex(main_.visiblePage());
+}
+
+void MainWindow::showAbout() {
+    frmAbout(*gAppInfo, this).exec();
+}
+
+void MainWindow::showGridParam() {
+    frmGridParam rules;
+    GridParamDialog(rules, this).exec();
+}
+
+void MainWindow::showGraphParam() {
+    frmGraphParam rules;
+    GraphParamDialog(rules, this).exec();
+}
+
+void MainWindow::closeEvent(QCloseEvent *event) {
+    // While a long job is under way the window is disabled, but its close box is not.
+    bool mayClose = false;
+    if (isEnabled())
+        runCommand([&] { mayClose = main_.queryClose(); });
+    event->setAccepted(mayClose);
+}
+
+} // namespace boulix

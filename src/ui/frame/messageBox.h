@@ -1,0 +1,18 @@
+// SPDX-FileCopyrightText: The Boulix developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "sill/desktop.h"
+
+#include <QMessageBox>
+
+namespace boulix {
+
+/// Shows a message box with plain text and gives the button that it was left by; Escape is the
+/// button that refuses.
+QMessageBox::StandardButton runMessageBox(QWidget *parent, const std::string &text, Icon icon,
+                                          const std::string &title,
+                                          QMessageBox::StandardButtons buttons = QMessageBox::Ok);
+
+} // namespace boulix

@@ -1,0 +1,172 @@
+// SPDX-FileCopyrightText: The Boulix developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "ui/frame/qtDesktop.h"
+
+#include "core/globals.h"
+#include "sill/frmNbrSelector.h"
+#include "sill/frmProgress.h"
+#include "ui/frame/fileDialogs.h"
+#include "ui/frame/frmSelDate.h"
+#include "ui/frame/frmSplash.h"
+#include "ui/frame/helpWindow.h"
+#include "ui/frame/mainWindow.h"
+#include "ui/frame/messageBox.h"
+#include "ui/frame/numberDialog.h"
+#include "ui/frame/platformHelp.h"
+#include "ui/frame/progressWindow.h"
+#include "ui/widgets/qtText.h"
+
+#include <QApplication>
+#include <QFileInfo>
+#include <QInputDialog>
+
+namespace boulix {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr auto eventsEvery = 16ms;
+/// A job that is done sooner shows no progress window: it would only flicker.
+constexpr auto progressAfter = 200ms;
+
+} // namespace
+
+QtDesktop::QtDesktop() = default;
+QtDesktop::~QtDesktop() {
+    delete help_;
+}
+
+void QtDesktop::showMessage(const std::string &text, Icon icon, const std::string &title) {
+    runMessageBox(parentForDialog(), text, icon, title);
+}
+
+bool QtDesktop::askYesNo(const std::string &text, Icon icon, const std::string &title) {
+    const auto buttons = QMessageBox::Yes | QMessageBox::No;
+    return runMessageBox(parentForDialog(), text, icon, title, buttons) == QMessageBox::Yes;
+}
+
+std::optional<std::string> QtDesktop::askText(const std::string &prompt, const std::string &title) {
+    QInputDialog dialog(parentForDialog());
+    dialog.setObjectName(QStringLiteral("inputBox"));
+    dialog.setWindowTitle(toQt(title));
+    dialog.setLabelText(linesToQt(prompt));
+    if (dialog.exec() != QDialog::Accepted)
+        return std::nullopt;
+    return fromQt(dialog.textValue());
+}
+
+std::string QtDesktop::openFile(const FileQuestion &question) {
+    return fileDialogs::open(parentForDialog(), question);
+}
+
+std::string QtDesktop::saveFile(const FileQuestion &question) {
+    return fileDialogs::save(parentForDialog(), question);
+}
+
+void QtDesktop::runNumberDialog(frmNbrSelector &dialog) {
+    NumberDialog(dialog, parentForDialog()).exec();
+}
+
+DrawDate QtDesktop::runDateDialog() {
+    frmSelDate dialog(parentForDialog());
+    dialog.exec();
+    return dialog.answer();
+}
+
+void QtDesktop::progressLoaded(frmProgress &progress) {
+    if (main_) {
+        focusBefore_ = main_->focusWidget();
+        main_->setEnabled(false);
+    }
+    progress_ = std::make_unique<ProgressWindow>(progress, main_.get());
+    progressDue_ = Clock::now() + progressAfter;
+}
+
+void QtDesktop::progressUnloaded() {
+    progress_.reset();
+    if (!main_)
+        return;
+    main_->setEnabled(true);
+    if (focusBefore_)
+        focusBefore_->setFocus();
+}
+
+void QtDesktop::runEvents() {
+    const Clock::time_point now = Clock::now();
+    if (now < nextEvents_)
+        return;
+    followProgress(now);
+    QApplication::processEvents();
+    nextEvents_ = Clock::now() + eventsEvery;
+}
+
+void QtDesktop::followProgress(Clock::time_point now) {
+    if (!progress_)
+        return;
+    progress_->refresh();
+    if (now >= progressDue_ && !progress_->isVisible())
+        progress_->show();
+}
+
+void QtDesktop::showSplash(const SplashTexts &texts) {
+    splash_ = std::make_unique<frmSplash>(texts);
+    splash_->show();
+    QApplication::processEvents();
+}
+
+void QtDesktop::unloadSplash() {
+    splash_.reset();
+}
+
+void QtDesktop::showMainWindow() {
+    main_ = std::make_unique<MainWindow>(*boulix::mainWindow);
+    main_->show();
+}
+
+void QtDesktop::unloadOtherWindows() {
+    progress_.reset();
+    splash_.reset();
+    for (QWidget *window : QApplication::topLevelWidgets())
+        if (window != main_.get())
+            window->close();
+}
+
+void QtDesktop::showHelp(const std::string &target, std::optional<std::int32_t> context) {
+    if (showPlatformHelp(target, context))
+        return;
+    const QString page = HelpWindow::pageFor(target, context);
+    if (!QFileInfo(page).isFile()) {
+        const std::string text = "La page d'aide " + fromQt(page) + " est introuvable.";
+        showMessage(text, Icon::information, "Aide");
+        return;
+    }
+    if (!help_) {
+        help_ = new HelpWindow;
+        help_->setAttribute(Qt::WA_DeleteOnClose);
+    }
+    help_->showPage(page);
+}
+
+bool QtDesktop::startEnded() {
+    if (splash_)
+        splash_->offerToClose();
+    return splash_ || main_;
+}
+
+QWidget *QtDesktop::mainWidget() const {
+    return main_.get();
+}
+
+QWidget *QtDesktop::parentForDialog() const {
+    if (QWidget *modal = QApplication::activeModalWidget())
+        return modal;
+    if (progress_ && progress_->isVisible())
+        return progress_.get();
+    if (main_)
+        return main_.get();
+    return splash_.get();
+}
+
+} // namespace boulix

@@ -1,0 +1,69 @@
+// SPDX-FileCopyrightText: The Boulix developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "sill/desktop.h"
+
+#include <QPointer>
+
+#include <chrono>
+#include <memory>
+
+class QWidget;
+
+namespace boulix {
+
+class frmSplash;
+class HelpWindow;
+class ProgressWindow;
+
+/// The dialogs and windows of the logic, in Qt.
+class QtDesktop : public Desktop {
+  public:
+    QtDesktop();
+    ~QtDesktop() override;
+
+    void showMessage(const std::string &text, Icon icon, const std::string &title) override;
+    bool askYesNo(const std::string &text, Icon icon, const std::string &title) override;
+    std::optional<std::string> askText(const std::string &prompt,
+                                       const std::string &title) override;
+
+    std::string openFile(const FileQuestion &question) override;
+    std::string saveFile(const FileQuestion &question) override;
+
+    void runNumberDialog(frmNbrSelector &dialog) override;
+    DrawDate runDateDialog() override;
+
+    void progressLoaded(frmProgress &progress) override;
+    void progressUnloaded() override;
+    void runEvents() override;
+
+    void showSplash(const SplashTexts &texts) override;
+    void unloadSplash() override;
+    void showMainWindow() override;
+    void unloadOtherWindows() override;
+    void showHelp(const std::string &target, std::optional<std::int32_t> context) override;
+
+    /// `Main` has returned: a splash window that is still there can be closed by the user. False
+    /// when there is no window at all.
+    bool startEnded();
+    /// The main window while there is one.
+    QWidget *mainWidget() const;
+
+  private:
+    using Clock = std::chrono::steady_clock;
+
+    QWidget *parentForDialog() const;
+    void followProgress(Clock::time_point now);
+
+    std::unique_ptr<QWidget> main_;
+    std::unique_ptr<ProgressWindow> progress_;
+    std::unique_ptr<frmSplash> splash_;
+    QPointer<HelpWindow> help_;
+    QPointer<QWidget> focusBefore_;
+    Clock::time_point nextEvents_;
+    Clock::time_point progressDue_;
+};
+
+} // namespace boulix

@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: The Boulix developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "ui/widgets/upDownField.h"
+
+#include "sill/reports.h"
+#include "sill/upDown.h"
+#include "ui/widgets/upDownView.h"
+
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QSignalBlocker>
+
+namespace boulix {
+
+UpDownField::UpDownField(upDown &control, const QString &boxName, const QString &arrowsName,
+                         QWidget *parent)
+    : QWidget(parent), control_(control), box_(new QLineEdit(this)), arrows_(new UpDownView(this)) {
+    box_->setObjectName(boxName);
+    box_->setAlignment(Qt::AlignRight);
+    box_->setFixedWidth(fontMetrics().averageCharWidth() * 11);
+    box_->installEventFilter(this);
+    arrows_->setObjectName(arrowsName);
+    arrows_->setFocusPolicy(Qt::NoFocus); // the arrow keys step in the box itself
+    setFocusProxy(box_);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    connect(box_, &QLineEdit::editingFinished, this, [this] { emit boxLeft(box_->text()); });
+    connect(arrows_, &UpDownView::valueChanged, this,
+            [this](int value) { runCommand([&] { control_.set(value); }); });
+
+    auto *row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(2);
+    row->addWidget(box_);
+    row->addWidget(arrows_);
+}
+
+void UpDownField::refresh(const QString &text) {
+    const QSignalBlocker quiet(arrows_);
+    arrows_->setRange(control_.min(), control_.max());
+    arrows_->setValue(control_.value());
+    setEnabled(control_.enabled);
+    box_->setText(text);
+}
+
+bool UpDownField::eventFilter(QObject *watched, QEvent *event) {
+    if (event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent *>(event)->key();
+        if (key == Qt::Key_Up || key == Qt::Key_Down) {
+            runCommand([&] { control_.step(key == Qt::Key_Up ? 1 : -1); });
+            return true;
+        }
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+} // namespace boulix

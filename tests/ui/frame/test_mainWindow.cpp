@@ -1,0 +1,184 @@
+// SPDX-FileCopyrightText: The Boulix developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "core/globals.h"
+#include "sill/modMain.h"
+#include "ui/support/screenTest.h"
+#include "workbench/frmMain.h"
+
+#include <QAction>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QStatusBar>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QtTest/QTest>
+
+#include <gmock/gmock.h>
+
+#include <filesystem>
+
+namespace boulix {
+namespace {
+
+using MainWindowTest = ScreenTest;
+
+std::string withoutMnemonic(QString text) {
+    return text.remove(QLatin1Char('&')).toStdString();
+}
+
+void clickTab(MainWindow &window, int tab) {
+    QTabBar *bar = control<QTabWidget>(window, "TabStrip").tabBar();
+    QTest::mouseClick(bar, Qt::LeftButton, {}, bar->tabRect(tab).center());
+}
+
+TEST_F(MainWindowTest, ItOpensOnTheDatabasePageWithAnEmptyBase) {
+    MainWindow &window = start();
+    EXPECT_EQ(window.windowTitle().toStdString(), "boulix Version 4.0.3");
+    EXPECT_EQ(window.objectName().toStdString(), "frmMain");
+    EXPECT_EQ(control<QLabel>(window, "StatusBar_1").text().toStdString(),
+              "0 combinaisons dans la base de données");
+    EXPECT_EQ(control<QTabWidget>(window, "TabStrip").currentIndex(), 0);
+    EXPECT_EQ(visibleWindow(QStringLiteral("frmSplash")), nullptr);
+}
+
+TEST_F(MainWindowTest, ThereAreSixTabsWithTheirToolTipsAndIcons) {
+    MainWindow &window = start();
+    const auto &tabs = control<QTabWidget>(window, "TabStrip");
+    ASSERT_EQ(tabs.count(), frmMain::tabCount);
+    for (int i = 0; i < tabs.count(); ++i) {
+        const TabText &told = frmMain::tabs[static_cast<std::size_t>(i)];
+        EXPECT_EQ(withoutMnemonic(tabs.tabText(i)), told.caption);
+        EXPECT_EQ(tabs.tabToolTip(i).toStdString(), told.toolTip);
+        EXPECT_EQ(tabs.widget(i)->objectName().toStdString(), "frameTab_" + std::to_string(i));
+        EXPECT_FALSE(tabs.tabIcon(i).isNull());
+    }
+}
+
+TEST_F(MainWindowTest, AClickOnATabShowsItsPage) {
+    MainWindow &window = start();
+    auto &tabs = control<QTabWidget>(window, "TabStrip");
+    for (const int tab : {4, 1, 1, 5, 0}) {
+        clickTab(window, tab);
+        EXPECT_EQ(mainWindow->visiblePage(), tab);
+        for (int i = 0; i < tabs.count(); ++i)
+            EXPECT_EQ(tabs.widget(i)->isVisible(), i == tab);
+    }
+}
+
+TEST_F(MainWindowTest, TheMenusHaveTheirEntries) {
+    MainWindow &window = start();
+    struct Entry {
+        const char *menu;
+        const char *name;
+        const char *caption;
+    };
+    const Entry entries[] = {
+        {"mnuFile", "mnuPrintCanvas", "Imprimer le canevas"},
+        {"mnuFile", "mnuExit", "Quitter"},
+        {"mnuConfig", "mnuPrinter", "Paramètres d'impression"},
+        {"mnuConfig", "mnuGrid", "Paramètres des grilles"},
+        {"mnuConfig", "mnuGraphParam", "Paramètres des graphiques"},
+        {"mnuHlp", "mnuHelp", "Aide"},
+        {"mnuHlp", "mnuAbout", "A propos"},
+    };
+    for (const Entry &entry : entries) {
+        auto &menu = control<QMenu>(window, entry.menu);
+        auto &action = control<QAction>(window, entry.name);
+        EXPECT_EQ(withoutMnemonic(action.text()), entry.caption);
+        EXPECT_TRUE(menu.actions().contains(&action)) << entry.name;
+        EXPECT_FALSE(action.icon().isNull()) << entry.name;
+    }
+    EXPECT_EQ(withoutMnemonic(control<QMenu>(window, "mnuFile").title()), "Fichier");
+    EXPECT_EQ(withoutMnemonic(control<QMenu>(window, "mnuConfig").title()), "Configuration");
+    EXPECT_EQ(withoutMnemonic(control<QMenu>(window, "mnuHlp").title()), "?");
+}
+
+TEST_F(MainWindowTest, NoTwoMnemonicsOfTheWindowAreTheSame) {
+    MainWindow &window = start();
+    QStringList captions;
+    for (const QAction *menu : window.menuBar()->actions())
+        captions << menu->text();
+    const auto &tabs = control<QTabWidget>(window, "TabStrip");
+    for (int i = 0; i < tabs.count(); ++i)
+        captions << tabs.tabText(i);
+    for (int button = 1; button <= 6; ++button)
+        captions << control<QAction>(window, ("tbarDB_" + std::to_string(button)).c_str()).text();
+    QStringList keys;
+    for (const QString &caption : captions) {
+        const QString key = QKeySequence::mnemonic(caption).toString();
+        EXPECT_FALSE(key.isEmpty()) << caption.toStdString();
+        EXPECT_FALSE(keys.contains(key)) << caption.toStdString();
+        keys << key;
+    }
+}
+
+TEST_F(MainWindowTest, TheAnswerNoKeepsTheWindowAndTheLogOpen) {
+    platform.arguments = "-debug";
+    MainWindow &window = start();
+    robot.box("Etes-vous sûr de vouloir quitter boulix?", "boulix", QMessageBox::Question,
+              QMessageBox::No);
+    EXPECT_FALSE(window.close());
+    EXPECT_TRUE(window.isVisible());
+    EXPECT_TRUE(modMain::gLogFile.is_open());
+}
+
+TEST_F(MainWindowTest, TheAnswerYesClosesTheOtherWindowsTheLogAndTheWindow) {
+    platform.arguments = "-debug";
+    MainWindow &window = start();
+    auto *other = new QWidget;
+    other->setAttribute(Qt::WA_DeleteOnClose);
+    const QPointer<QWidget> watched(other);
+    other->show();
+    robot.box("Etes-vous sûr de vouloir quitter boulix?", "boulix", QMessageBox::Question,
+              QMessageBox::Yes);
+    control<QAction>(window, "mnuExit").trigger();
+    EXPECT_FALSE(window.isVisible());
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(watched.isNull());
+    EXPECT_FALSE(modMain::gLogFile.is_open());
+}
+
+TEST_F(MainWindowTest, TheAboutBoxOpensFromTheMenu) {
+    MainWindow &window = start();
+    robot.clickIn("frmAbout", "CMD_OK");
+    control<QAction>(window, "mnuAbout").trigger();
+}
+
+TEST_F(MainWindowTest, F1AsksForTheHelpOfTheProgram) {
+    MainWindow &window = start();
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    robot.box("La page d'aide " + file("help/index.html") + " est introuvable.", "Aide",
+              QMessageBox::Information);
+    QTest::keyClick(&window, Qt::Key_F1);
+    robot.finish();
+}
+
+TEST_F(MainWindowTest, AStartThatFailsLeavesTheSplashAndNoMainWindow) {
+    std::filesystem::create_directory(file("tirages.dbl")); // nothing that can be read
+    robot.in("messageBox", [](QWidget &box) {
+        EXPECT_THAT(box.windowTitle().toStdString(),
+                    ::testing::StartsWith("Boulix Erreur système N° "));
+        click(*box.findChild<QPushButton *>());
+    });
+    modMain::Main();
+    EXPECT_EQ(desktop->mainWidget(), nullptr);
+    EXPECT_TRUE(desktop->startEnded());
+    QWidget *splash = visibleWindow(QStringLiteral("frmSplash"));
+    ASSERT_NE(splash, nullptr);
+    click(control<QPushButton>(*splash, "cmdClose"));
+    EXPECT_EQ(visibleWindow(QStringLiteral("frmSplash")), nullptr);
+}
+
+TEST_F(MainWindowTest, ARefusedBaseIsNoReasonToStop) {
+    testing_support::writeBytes(file("tirages.dbl"), std::string(4000, 'x'));
+    robot.in("messageBox", [](QWidget &box) { click(*box.findChild<QPushButton *>()); });
+    EXPECT_EQ(control<QLabel>(start(), "StatusBar_1").text().toStdString(),
+              "0 combinaisons dans la base de données");
+}
+
+} // namespace
+} // namespace boulix
