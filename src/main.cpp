@@ -8,12 +8,13 @@
 #include "ui/frame/qtPlatform.h"
 #include "ui/printing/qtPrintWindows.h"
 #include "ui/printing/qtPrinterSystem.h"
+#include "ui/workbench/mainParts.h"
 
 int main(int argc, char **argv) {
     boulix::QtPlatform platform(argc, argv);
     boulix::setPlatform(&platform);
     boulix::Application application(argc, argv);
-    boulix::QtDesktop desktop;
+    boulix::QtDesktop desktop(boulix::mainParts());
     boulix::setDesktop(&desktop);
     boulix::QtPrinterSystem printers;
     boulix::setPrinterSystem(&printers);

@@ -16,6 +16,7 @@
 #include "ui/frame/qtPlatform.h"
 #include "ui/printing/qtPrintWindows.h"
 #include "ui/printing/qtPrinterSystem.h"
+#include "ui/workbench/mainParts.h"
 #include "winnings/rapport.h"
 
 #include <QMainWindow>
@@ -64,6 +65,7 @@ class FolderPlatform : public QtPlatform {
 /// Answers the import's question for a file.
 class AnsweringDesktop : public QtDesktop {
   public:
+    using QtDesktop::QtDesktop;
     std::string history;
     std::string openFile(const FileQuestion &) override { return history; }
 };
@@ -105,7 +107,7 @@ int main(int argc, char **argv) {
     FolderPlatform platform(argc, argv);
     setPlatform(&platform);
     Application application(argc, argv);
-    AnsweringDesktop desktop;
+    AnsweringDesktop desktop(mainParts());
     setDesktop(&desktop);
     QtPrinterSystem printers;
     setPrinterSystem(&printers);

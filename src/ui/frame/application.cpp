@@ -5,6 +5,7 @@
 
 #include "sill/reports.h"
 #include "ui/style/iconLoader.h"
+#include "ui/style/programStyle.h"
 #include "ui/style/theme.h"
 
 #include <QLibraryInfo>
@@ -18,7 +19,7 @@ Application::Application(int &argc, char **argv) : QApplication(argc, argv) {
     if (QLocale::system().language() == QLocale::C)
         QLocale::setDefault(QLocale(QLocale::French, QLocale::France));
     speakFrench();
-    theme::dress();
+    ProgramStyle::dress();
     setWindowIcon(logoIcon());
 }
 

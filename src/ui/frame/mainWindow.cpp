@@ -4,23 +4,13 @@
 #include "ui/frame/mainWindow.h"
 
 #include "core/globals.h"
-#include "printing/frmGridParam.h"
 #include "printing/modPrinter.h"
 #include "sill/appInfo.h"
 #include "sill/reports.h"
-#include "stats/frmGraph.h"
-#include "ui/draws/databaseTab.h"
-#include "ui/eliminators/eliminatorTab.h"
-#include "ui/forecasts/forecastTab.h"
 #include "ui/frame/frmAbout.h"
-#include "ui/printing/gridParamDialog.h"
-#include "ui/stats/drawAnalysisTab.h"
-#include "ui/stats/graphParamDialog.h"
-#include "ui/stats/statisticsTab.h"
 #include "ui/style/iconLoader.h"
 #include "ui/style/theme.h"
 #include "ui/widgets/qtText.h"
-#include "ui/workbench/gameTab.h"
 
 #include <QAction>
 #include <QCloseEvent>
@@ -55,7 +45,8 @@ std::array<TabLook, frmMain::tabCount> tabLooks() {
 
 } // namespace
 
-MainWindow::MainWindow(frmMain &main) : main_(main), TabStrip(new QTabWidget(this)) {
+MainWindow::MainWindow(frmMain &main, const MainParts &parts)
+    : main_(main), parts_(parts), TabStrip(new QTabWidget(this)) {
     setObjectName(QStringLiteral("frmMain"));
     setCentralWidget(TabStrip);
     makePages();
@@ -71,25 +62,6 @@ MainWindow::~MainWindow() {
     main_.view(nullptr);
 }
 
-QWidget *MainWindow::makePage(int index) {
-    switch (index) {
-    case 0:
-        return new DatabaseTab(main_.database, TabStrip);
-    case 1:
-        return new StatisticsTab(main_.statistics, TabStrip);
-    case 2:
-        return new DrawAnalysisTab(main_.analysis, TabStrip);
-    case 3:
-        return new EliminatorTab(main_.elimination, TabStrip);
-    case 4:
-        return new GameTab(main_.games, main_.winnings, TabStrip);
-    case 5:
-        return new ForecastTab(main_.forecasts, TabStrip);
-    default:
-        return new QWidget(TabStrip);
-    }
-}
-
 void MainWindow::makePages() {
     TabStrip->setObjectName(QStringLiteral("TabStrip"));
     TabStrip->setDocumentMode(true);
@@ -98,7 +70,7 @@ void MainWindow::makePages() {
     TabStrip->setElideMode(Qt::ElideNone);
     const auto looks = tabLooks();
     for (std::size_t i = 0; i < looks.size(); ++i) {
-        QWidget *page = makePage(static_cast<int>(i));
+        QWidget *page = parts_.pages[i](main_, TabStrip);
         page->setObjectName(QStringLiteral("frameTab_%1").arg(i));
         const int tab = TabStrip->addTab(page, loadIcon(looks[i].icon), looks[i].caption);
         TabStrip->setTabToolTip(tab, QString::fromUtf8(frmMain::tabs[i].toolTip));
@@ -138,8 +110,8 @@ void MainWindow::makeMenus() {
                  QStringLiteral("Paramètres des g&raphiques"), QStringLiteral("chart"));
     connect(canvas, &QAction::triggered, this, [] { runCommand(modPrinter::printCanvas); });
     connect(printer, &QAction::triggered, this, [] { runCommand(modPrinter::printerDialog); });
-    connect(grid, &QAction::triggered, this, &MainWindow::showGridParam);
-    connect(graph, &QAction::triggered, this, &MainWindow::showGraphParam);
+    connect(grid, &QAction::triggered, this, [this] { parts_.runGridParam(this); });
+    connect(graph, &QAction::triggered, this, [this] { parts_.runGraphParam(this); });
 
     QMenu *help = menuBar()->addMenu(QStringLiteral("&?"));
     help->setObjectName(QStringLiteral("mnuHlp"));
@@ -175,16 +147,6 @@ void MainWindow::refresh() {
 
 void MainWindow::showAbout() {
     frmAbout(*gAppInfo, this).exec();
-}
-
-void MainWindow::showGridParam() {
-    frmGridParam rules;
-    GridParamDialog(rules, this).exec();
-}
-
-void MainWindow::showGraphParam() {
-    frmGraphParam rules;
-    GraphParamDialog(rules, this).exec();
 }
 
 void MainWindow::closeEvent(QCloseEvent *event) {

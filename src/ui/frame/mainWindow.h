@@ -15,6 +15,16 @@ class QTabWidget;
 
 namespace boulix {
 
+/// What the main window shows without knowing it: the rooms of the pages stand above the frame.
+struct MainParts {
+    using MakePage = QWidget *(*)(frmMain &main, QWidget *parent);
+    using RunDialog = void (*)(QWidget *parent);
+
+    std::array<MakePage, frmMain::tabCount> pages; ///< in the order of the tabs
+    RunDialog runGridParam;
+    RunDialog runGraphParam;
+};
+
 /// The main window on the screen: menus, six pages, status bar. What they say and do stands in
 /// `frmMain`.
 class MainWindow : public QMainWindow, public frmMainView {
@@ -22,7 +32,7 @@ class MainWindow : public QMainWindow, public frmMainView {
 
   public:
     /// Shows `main`, which must live longer than the window and has been loaded.
-    explicit MainWindow(frmMain &main);
+    MainWindow(frmMain &main, const MainParts &parts);
     ~MainWindow() override;
 
     void refresh() override;
@@ -32,16 +42,14 @@ class MainWindow : public QMainWindow, public frmMainView {
 
   private:
     void makePages();
-    QWidget *makePage(int index);
     void makeMenus();
     void makeStatusBar();
     QAction *addEntry(QMenu &menu, const QString &name, const QString &caption,
                       const QString &icon);
     void showAbout();
-    void showGridParam();
-    void showGraphParam();
 
     frmMain &main_;
+    MainParts parts_;
     QTabWidget *TabStrip;
     std::array<QLabel *, 2> panels_{};
 };

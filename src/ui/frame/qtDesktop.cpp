@@ -10,7 +10,6 @@
 #include "ui/frame/frmSelDate.h"
 #include "ui/frame/frmSplash.h"
 #include "ui/frame/helpWindow.h"
-#include "ui/frame/mainWindow.h"
 #include "ui/frame/messageBox.h"
 #include "ui/frame/numberDialog.h"
 #include "ui/frame/platformHelp.h"
@@ -33,7 +32,8 @@ constexpr auto progressAfter = 200ms;
 
 } // namespace
 
-QtDesktop::QtDesktop() = default;
+QtDesktop::QtDesktop(const MainParts &parts) : parts_(parts) {}
+
 QtDesktop::~QtDesktop() {
     delete help_;
 }
@@ -121,7 +121,7 @@ void QtDesktop::unloadSplash() {
 }
 
 void QtDesktop::showMainWindow() {
-    main_ = std::make_unique<MainWindow>(*boulix::mainWindow);
+    main_ = std::make_unique<MainWindow>(*boulix::mainWindow, parts_);
     main_->show();
 }
 

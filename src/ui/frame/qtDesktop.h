@@ -4,6 +4,7 @@
 #pragma once
 
 #include "sill/desktop.h"
+#include "ui/frame/mainWindow.h"
 
 #include <QPointer>
 
@@ -21,7 +22,8 @@ class ProgressWindow;
 /// The dialogs and windows of the logic, in Qt.
 class QtDesktop : public Desktop {
   public:
-    QtDesktop();
+    /// `parts` are what the main window will be made of.
+    explicit QtDesktop(const MainParts &parts);
     ~QtDesktop() override;
 
     void showMessage(const std::string &text, Icon icon, const std::string &title) override;
@@ -57,6 +59,7 @@ class QtDesktop : public Desktop {
     QWidget *parentForDialog() const;
     void followProgress(Clock::time_point now);
 
+    MainParts parts_;
     std::unique_ptr<QWidget> main_;
     std::unique_ptr<ProgressWindow> progress_;
     std::unique_ptr<frmSplash> splash_;

@@ -7,6 +7,7 @@
 #include "ui/style/iconLoader.h"
 #include "ui/style/theme.h"
 
+#include <QApplication>
 #include <QPainter>
 #include <QPushButton>
 #include <QStyleOption>
@@ -35,6 +36,11 @@ bool isInToolbar(const QWidget *widget) {
 } // namespace
 
 ProgramStyle::ProgramStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
+
+void ProgramStyle::dress() {
+    QApplication::setStyle(new ProgramStyle);
+    theme::followDesktop();
+}
 
 QIcon ProgramStyle::standardIcon(StandardPixmap icon, const QStyleOption *option,
                                  const QWidget *widget) const {

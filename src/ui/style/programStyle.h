@@ -16,6 +16,8 @@ class ProgramStyle : public QProxyStyle {
 
   public:
     ProgramStyle();
+    /// Gives the running program this style and the palette that goes with the desktop's.
+    static void dress();
 
     QIcon standardIcon(StandardPixmap icon, const QStyleOption *option,
                        const QWidget *widget) const override;

@@ -3,8 +3,6 @@
 
 #include "ui/style/theme.h"
 
-#include "ui/style/programStyle.h"
-
 #include <QApplication>
 
 namespace boulix::theme {
@@ -68,11 +66,6 @@ QPalette darkPalette() {
 
 bool isDark(const QPalette &palette) {
     return palette.color(QPalette::Window).lightness() < 128;
-}
-
-void dress() {
-    QApplication::setStyle(new ProgramStyle);
-    followDesktop();
 }
 
 void followDesktop() {

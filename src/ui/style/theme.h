@@ -29,8 +29,6 @@ bool isDark(const QPalette &palette);
 /// `over` laid on `ground` with the strength `part`, 0 to 1; an opaque colour.
 QColor blend(const QColor &ground, const QColor &over, qreal part);
 
-/// Dresses the program: its style, and its palette as `followDesktop` takes it.
-void dress();
 /// Takes the light or the dark palette, whichever is nearer to the one that the desktop has now.
 void followDesktop();
 

@@ -30,6 +30,7 @@
 #include "ui/widgets/numberBoardView.h"
 #include "ui/widgets/qtText.h"
 #include "ui/widgets/reportView.h"
+#include "ui/workbench/mainParts.h"
 #include "workbench/frmMain.h"
 
 #include <QDir>
@@ -52,6 +53,10 @@ namespace {
 
 /// Imports the sample history without asking, and keeps the data in a folder of its own.
 class GalleryDesktop : public QtDesktop {
+  public:
+    using QtDesktop::QtDesktop;
+
+  private:
     std::string openFile(const FileQuestion &) override {
         return support::operatorHistory().value_or(support::sampleHistory()).string();
     }
@@ -160,7 +165,7 @@ int main(int argc, char **argv) {
     GalleryPlatform platform(argc, argv);
     setPlatform(&platform);
     Application application(argc, argv);
-    GalleryDesktop desktop;
+    GalleryDesktop desktop(mainParts());
     setDesktop(&desktop);
     const QStringList arguments = Application::arguments();
     if (arguments.size() < 2 || !QDir().mkpath(arguments[1]) || !QDir::setCurrent(arguments[1]))

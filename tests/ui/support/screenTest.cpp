@@ -6,13 +6,14 @@
 #include "core/globals.h"
 #include "sill/appInfo.h"
 #include "sill/modMain.h"
+#include "ui/workbench/mainParts.h"
 #include "winnings/rapport.h"
 
 #include <QtTest/QTest>
 
 namespace boulix::testing_support {
 
-ScreenTest::ScreenTest() : desktop(std::make_unique<QtDesktop>()) {
+ScreenTest::ScreenTest() : desktop(std::make_unique<QtDesktop>(mainParts())) {
     setPlatform(&platform);
     setDesktop(desktop.get());
     setPrinterSystem(&printers);
@@ -44,7 +45,7 @@ MainWindow &ScreenTest::mainWindowOnScreen() const {
 }
 
 void ScreenTest::forget() {
-    desktop = std::make_unique<QtDesktop>(); // the windows go before what they show
+    desktop = std::make_unique<QtDesktop>(mainParts()); // the windows go before what they show
     setDesktop(desktop.get());
     resetGlobals();
     modMain::gDebug = false;
