@@ -153,7 +153,7 @@ void keepMainWindow() {
     gDbCombs->dbFile().name("tirages.dbl");
     gDbCombs->ImportFdjFile();
     mainWindow->load();
-    MainWindow window(*mainWindow);
+    MainWindow window(*mainWindow, mainParts());
     keep(window, QStringLiteral("frmMain"));
     window.resize(window.minimumSizeHint());
     keep(window, QStringLiteral("frmMain-smallest"));

@@ -14,6 +14,7 @@
 #include "ui/games/gameListDialog.h"
 #include "ui/games/randomCombDialog.h"
 #include "ui/winnings/winDateDialog.h"
+#include "ui/workbench/mainParts.h"
 #include "winnings/gameWin.h"
 #include "winnings/rapport.h"
 #include "workbench/frmMain.h"
@@ -50,7 +51,7 @@ void makeGames() {
 }
 
 void keepPages() {
-    MainWindow window(*mainWindow);
+    MainWindow window(*mainWindow, mainParts());
     mainWindow->clickTab(4);
     mainWindow->elimination.tick(0, true);
     mainWindow->elimination.txtEliminator[0] = "3";

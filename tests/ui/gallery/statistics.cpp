@@ -8,6 +8,7 @@
 #include "stats/statTypes.h"
 #include "ui/frame/mainWindow.h"
 #include "ui/stats/graphWindow.h"
+#include "ui/workbench/mainParts.h"
 #include "workbench/frmMain.h"
 
 #include <QListWidget>
@@ -24,7 +25,7 @@ void keepPages() {
     modStats::InitStatTypes();
     modStats::InitTripletTable();
     mainWindow->load();
-    MainWindow window(*mainWindow);
+    MainWindow window(*mainWindow, mainParts());
     mainWindow->clickTab(2);
     keep(window, QStringLiteral("statisticsTab-empty"));
     for (const std::int16_t n : std::vector<std::int16_t>{3, 17, 28, 49})
