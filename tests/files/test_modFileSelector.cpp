@@ -21,7 +21,7 @@ TEST_F(FileSelector, OpensInTheCurrentFolderWithFilterAndTitle) {
     ASSERT_EQ(desktop.openQuestions.size(), 1U);
     EXPECT_EQ(desktop.openQuestions[0].filter, filter);
     EXPECT_EQ(desktop.openQuestions[0].title, "Ouverture d'un fichier jeu");
-    EXPECT_EQ(desktop.openQuestions[0].folder, folder());
+    EXPECT_EQ(desktop.openQuestions[0].folder, lastUsedFolder());
 }
 
 TEST_F(FileSelector, SavesInTheCurrentFolderWithFilterAndTitle) {
@@ -30,7 +30,7 @@ TEST_F(FileSelector, SavesInTheCurrentFolderWithFilterAndTitle) {
     ASSERT_EQ(desktop.saveQuestions.size(), 1U);
     EXPECT_EQ(desktop.saveQuestions[0].filter, filter);
     EXPECT_EQ(desktop.saveQuestions[0].title, "Sauvegarde d'un fichier jeu");
-    EXPECT_EQ(desktop.saveQuestions[0].folder, folder());
+    EXPECT_EQ(desktop.saveQuestions[0].folder, lastUsedFolder());
 }
 
 TEST_F(FileSelector, TheNextDialogOfAnyKindOpensInTheFolderOfTheLastFile) {
@@ -50,7 +50,7 @@ TEST_F(FileSelector, ACancelledDialogGivesNothingAndLeavesTheFolder) {
     desktop.cancelSave();
     EXPECT_EQ(modFileSelector::openDialog(filter, "a"), "");
     EXPECT_EQ(modFileSelector::saveDialog(filter, "b"), "");
-    EXPECT_EQ(modMain::gCurrentDir, folder());
+    EXPECT_EQ(modMain::gCurrentDir, lastUsedFolder());
 }
 
 class OverwriteRule : public BoulixTest {

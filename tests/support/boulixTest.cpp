@@ -47,7 +47,7 @@ FreshProgramTest::~FreshProgramTest() {
 BoulixTest::BoulixTest() {
     gAppInfo->init("Avertissement.", "Marcel Quillon", "Quillon Logiciels", 2003);
     modMaths::precomputeCnk();
-    modMain::gCurrentDir = folder();
+    modMain::gCurrentDir = lastUsedFolder();
 }
 
 std::optional<RuntimeFailure> failureOf(const std::function<void()> &action) {

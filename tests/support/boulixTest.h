@@ -36,11 +36,18 @@ class FreshProgramTest : public ::testing::Test {
     ScriptedPrintWindows printWindows;
 };
 
-/// The usual fixture: identity, binomial table and current folder are there, as the start-up
-/// leaves them; no data file has been looked for.
+/// The usual fixture: identity and binomial table are there, as the start-up leaves
+/// them; no data file has been looked for. The user has opened a file in another folder
+/// since: what belongs into the application folder and lands in this one is seen.
 class BoulixTest : public FreshProgramTest {
   protected:
     BoulixTest();
+
+    /// The folder last used, with a separator at its end, as a dialog leaves it.
+    std::string lastUsedFolder() const { return lastUsed_.path() + "/"; }
+
+  private:
+    TemporaryFolder lastUsed_;
 };
 
 /// Runs `action` and gives the run-time failure it ended with, or nothing.

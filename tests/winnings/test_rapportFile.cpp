@@ -97,7 +97,7 @@ TEST_F(RapportFileTest, LoadAsksForAFileOfItsKind) {
     ASSERT_EQ(desktop.openQuestions.size(), 1U);
     EXPECT_EQ(desktop.openQuestions[0].title, "Ouverture d'un fichier de rapport");
     EXPECT_EQ(desktop.openQuestions[0].filter, "Fichier de rapport Boulix (*.rap)|*.rap");
-    EXPECT_EQ(desktop.openQuestions[0].folder, folder());
+    EXPECT_EQ(desktop.openQuestions[0].folder, lastUsedFolder());
     EXPECT_EQ(desktop.messages.size(), 0U);
 }
 
@@ -180,7 +180,8 @@ TEST_F(RapportFileTest, AMissingDefaultFileGivesOneMessageAndATableOfZeros) {
     EXPECT_FALSE(fileExists(file("defrapp.rap")));
 }
 
-TEST_F(RapportFileTest, TheDefaultFileIsReadFromTheApplicationFolder) {
+TEST_F(RapportFileTest, TheDefaultFileIsReadFromTheApplicationFolderOnly) {
+    table.save(lastUsedFolder() + "defrapp.rap");
     rapport saved;
     saved.Value(10, 1234.5F);
     saved.save(file("defrapp.rap"));

@@ -116,6 +116,7 @@ TEST_F(PrizeTablePage, SavesTheDefaultTableWithoutAnyQuestion) {
         page.clickRapp(winningsPage::saveDefault);
     }
     ASSERT_TRUE(fileExists(file("defrapp.rap")));
+    EXPECT_FALSE(fileExists(lastUsedFolder() + "defrapp.rap"));
     EXPECT_EQ(desktop.questions.size(), 0U);
     EXPECT_EQ(desktop.saveQuestions.size(), 0U);
     rapport saved;
