@@ -193,6 +193,21 @@ TEST(DbComb, FromStringTakesDatesAsTheyStand) {
     }
 }
 
+TEST(DbComb, FromStringReadsTheMonthFromTheFrontOfADateAndTheDayFromItsEnd) {
+    struct {
+        const char *field;
+        CalendarDay day;
+    } const table[] = {{"2003111", {2003, 11, 11}},
+                       {"200312", {2003, 12, 12}},
+                       {"200301011", {2003, 1, 11}},
+                       {"2003010528", {2003, 1, 28}}};
+    for (const auto &row : table) {
+        dbComb draw;
+        draw.fromString(lineWithDay(row.field), oneToNine);
+        EXPECT_EQ(draw.day(), dateOf(row.day)) << row.field;
+    }
+}
+
 TEST(DbComb, FromStringFailsOnADateThatDoesNotExist) {
     for (const char *date : {"20030230", "20030229", "20031301", "20030001", "20030100", "20030132",
                              "20031311", "00990101", "00000000"})

@@ -81,6 +81,17 @@ TEST_F(DrawEditing, ModifyingShowsThePresentNumbersTheComplementaryLast) {
     EXPECT_EQ(desktop.numberShowings[0].markedBefore, (Numbers{2, 3, 5, 7, 11, 13, 17}));
 }
 
+TEST_F(DrawEditing, ModifyingAsksForExactlySevenNumbers) {
+    desktop.answerNumbers(NumberScript().click({17}).ok()); // six are left
+    desktop.answerNumbers(NumberScript().click({18}).ok());
+    desktop.answerDate({37632, 1});
+    gDbCombs->modify(1);
+    ASSERT_EQ(desktop.messages.size(), 1U);
+    EXPECT_EQ(desktop.messages[0], (ShownBox{"Vous devez sélectionner au moins 7 numéros!!!",
+                                             Icon::information, "boulix: Erreur N° 4303"}));
+    EXPECT_EQ(rowOf(gDbCombs->Item(1)), "11/01/2003 (1) 2 3 5 7 11 13 + 18 = 82 100");
+}
+
 TEST_F(DrawEditing, ModifyingTakesNumbersDayAndDrawOfTheDayAndSorts) {
     desktop.answerNumbers(NumberScript().click({17, 3}).click({49, 48}).ok());
     desktop.answerDate({37640, 2});

@@ -228,6 +228,51 @@ TEST_F(Import, OrdersFilesOfAnyOrderWithAndWithoutDoubles) {
     }
 }
 
+/// A draw of a day of January 2003, told from its doubles by its first number.
+std::string markedLine(int day, int mark) {
+    return std::to_string(mark) + ";0;0;0;0;0;0;200301" + (day < 10 ? "0" : "") +
+           std::to_string(day) + ";1";
+}
+
+/// The marks of the draws that are left of `draws`, whose order is that of the sort: of each day
+/// the first one, the days ascending.
+std::vector<int> marksOfFirsts(const dbCombs &draws) {
+    std::vector<int> marks;
+    for (int day = 1; day <= 31; ++day)
+        for (const dbComb &draw : draws)
+            if (draw.day() == dateOf({2003, 1, day})) {
+                marks.push_back(draw.comb().num(1));
+                break;
+            }
+    return marks;
+}
+
+TEST_F(Import, OfTwoDoublesInABaseOutOfOrderTheOneSurvivesThatTheSortLeftFirst) {
+    std::mt19937 random(1977);
+    std::uniform_int_distribution<int> pick(1, 31);
+    int outOfOrder = 0;
+    for (int round = 0; round < 100; ++round) {
+        std::vector<std::string> lines;
+        dbCombs sorted;
+        for (int mark = 1; mark <= 80; ++mark) {
+            const int day = pick(random);
+            lines.push_back(markedLine(day, mark));
+            sorted.Add(dateOf({2003, 1, day}), 1, combOf({mark}), false, "");
+        }
+        sorted.sort();
+        outOfOrder +=
+            !std::is_sorted(sorted.begin(), sorted.end(),
+                            [](const dbComb &a, const dbComb &b) { return b.isGreater(a); });
+        gDbCombs->clear();
+        ASSERT_TRUE(importLines(lines));
+        std::vector<int> marks;
+        for (const dbComb &draw : *gDbCombs)
+            marks.push_back(draw.comb().num(1));
+        ASSERT_EQ(marks, marksOfFirsts(sorted)) << "round " << round;
+    }
+    EXPECT_GT(outOfOrder, 10) << "bases that had to be brought in order";
+}
+
 TEST_F(Import, SaysNothingOfTheOrderWhereTheSortSufficed) {
     startLog();
     EXPECT_TRUE(importLines({lineC, lineB, lineA}));

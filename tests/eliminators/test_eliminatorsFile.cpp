@@ -76,6 +76,18 @@ TEST_F(EliminatorsFileTest, ANewFileHasTheStatedLengthAndLayout) {
     }
 }
 
+TEST_F(EliminatorsFileTest, TheFlagsAreSavedBehindTheRulesHoweverManyThereAre) {
+    rules.Add("La neuvième", 1, 2, 3, 0);
+    const std::string bytes = savedBytes();
+    ASSERT_EQ(bytes.size(), 58U * 256 + 4);
+    EXPECT_EQ(bytes.substr(9 * 256 + 2, 11), "La neuvi\xE8me");
+    for (int n = 1; n <= 49; ++n) {
+        const std::size_t flag = static_cast<std::size_t>(n + 9) * 256;
+        EXPECT_EQ(readInt16(bytes, flag), 11) << n;
+        EXPECT_EQ(readInt16(bytes, flag + 2), n == 7 || n == 13 || n == 49 ? -1 : 0) << n;
+    }
+}
+
 TEST_F(EliminatorsFileTest, ASaveAndALoadKeepEverythingButTheListWhichComesBackFull) {
     rules.Item(5).label("Règle rebaptisée à l'œuvre");
     rules.Item(5).ValMin(-3);

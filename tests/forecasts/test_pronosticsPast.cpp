@@ -127,6 +127,16 @@ TEST_F(PronosticsPast, ARefusedRuleLeavesTheEarlierResult) {
     EXPECT_EQ(desktop.messages[0].title, "boulix: Erreur N° 4503");
 }
 
+TEST_F(PronosticsPast, ARefusedRuleLeavesTheDrawThatTheRulesLookBackFrom) {
+    addRandomDraws(10, random);
+    addEqualRule();
+    addEqualRule();
+    set.Item(1).baseTir(7);
+    set.Item(2).nPoint(0);
+    EXPECT_FALSE(set.test(8, 2, 2, 49));
+    EXPECT_EQ(set.Item(1).baseTir(), 7);
+}
+
 TEST_F(PronosticsPast, NegativeDrawsBeforeOrAfterMakeAShortOrEmptyRun) {
     addRandomDraws(10, random);
     addEqualRule();

@@ -105,6 +105,16 @@ TEST_F(RandomCombTest, ACountThatIsNoNumberOrTooLargeIsShownAsAFailure) {
     EXPECT_EQ(desktop.messages[2].title, "Boulix Erreur système N° 6");
 }
 
+TEST_F(RandomCombTest, ACountThatIsNoNumberClearsTheList) {
+    for (const char *text : {"", "beaucoup", "99999"}) {
+        compute("3");
+        compute(text);
+        EXPECT_EQ(dialog.lvWComb.rowCount(), 0) << text;
+        dialog.clickOK();
+        EXPECT_TRUE(randomDraws.empty()) << text;
+    }
+}
+
 TEST_F(RandomCombTest, OkHandsTheDrawsOver) {
     compute("3");
     dialog.clickOK();

@@ -183,6 +183,18 @@ TEST_F(ComputeTest, TheThreeStagesShowTheirTextsAndBars) {
     EXPECT_EQ(desktop.progressRuns[0].last.ProgressBar2.value, 80); // the last multiple of 8
 }
 
+TEST_F(ComputeTest, TheChoiceMovesItsBarEveryEightPuplets) {
+    compute(0, 3, 8); // 56 p-uplets
+    const auto &run = desktop.progressRuns.at(0);
+    std::vector<std::int64_t> bar;
+    for (const frmProgress &step : run.steps)
+        if (step.lblInfo == "Calcul du jeu réduit..." &&
+            (bar.empty() || step.ProgressBar2.value != bar.back()))
+            bar.push_back(step.ProgressBar2.value);
+    EXPECT_EQ(bar, (std::vector<std::int64_t>{1, 8, 16, 24, 32, 40, 48}));
+    EXPECT_EQ(run.last.ProgressBar2.value, 56);
+}
+
 TEST_F(ComputeTest, CancelInTheFirstTwoStagesLeavesNoRows) {
     for (const std::int64_t turn : {1, 2, 3, 4}) {
         desktop.cancelProgressAt(turn);

@@ -46,6 +46,13 @@ TEST_F(EliminationTest, AnEmptyGameShowsNothingAtAll) {
     EXPECT_TRUE(desktop.progressRuns.empty());
 }
 
+TEST_F(EliminationTest, ARuleOutOfItsRangeIsReportedForAnEmptyGameToo) {
+    turnOn(5, 7);
+    grids.EliminComb();
+    ASSERT_EQ(desktop.messages.size(), 1U);
+    EXPECT_EQ(desktop.messages[0].title, "boulix: Erreur N° 2905");
+}
+
 TEST_F(EliminationTest, ARuleOutOfItsRangeEndsTheOperationAfterItsMessage) {
     turnOn(5, 7);
     fill({{1, 2, 3, 4, 5, 6}});
@@ -343,6 +350,14 @@ TEST_F(EliminationTest, ARuleThatIsOffLeavesTheStagesWhereTheyAre) {
     EXPECT_EQ(steps.at(0).ProgressBar2.value, 1);
     EXPECT_EQ(steps.at(1).ProgressBar2.value, 3);
     EXPECT_EQ(steps.at(2).ProgressBar2.value, 7);
+}
+
+TEST_F(EliminationTest, TheBarOfASingleGridReachesToTwo) {
+    fill({{1, 12, 23, 34, 45, 46}});
+    grids.EliminComb();
+    const frmProgress &window = desktop.progressRuns.at(0).last;
+    EXPECT_EQ(window.ProgressBar.min, 1);
+    EXPECT_EQ(window.ProgressBar.max, 2);
 }
 
 TEST_F(EliminationTest, CancelIsNeverRead) {

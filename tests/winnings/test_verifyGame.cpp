@@ -176,6 +176,13 @@ TEST_F(VerifyCombList, SumsTheFirstDrawsOfTheList) {
     EXPECT_EQ(total.price(6), 6.0F);
 }
 
+TEST_F(VerifyCombList, OfASingleDrawGivesWhatThatDrawGives) {
+    addGrid({1, 2, 3, 13, 14, 15});
+    const gameResult total = grids.verifyCombList({lotoCombOf({1, 2, 3, 4, 5, 6, 7})}, 1, bar);
+    EXPECT_EQ(winsOf(total), oneWinAt(5));
+    EXPECT_EQ(total.price(5), 5.0F);
+}
+
 TEST_F(VerifyCombList, TheBarMovesEverySixteenDrawsAndEndsAtItsLowestValue) {
     addGrid({1, 2, 3, 11, 12, 13});
     draws.resize(40, draws[0]);

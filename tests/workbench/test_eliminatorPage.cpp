@@ -82,6 +82,13 @@ TEST_F(EliminatorPageTest, TickedRulesGoOnWithTheirValues) {
     EXPECT_EQ(rule(2).status(), 0);
 }
 
+TEST_F(EliminatorPageTest, TheListRuleGoesOnWithTheValue0WhateverItHad) {
+    rule(8).Value(5);
+    page.tick(7, true);
+    page.toRules();
+    EXPECT_EQ(rule(8).Value(), 0);
+}
+
 TEST_F(EliminatorPageTest, TheValueOfARuleThatIsOffKeepsItsOldContent) {
     rule(5).Value(3);
     rule(5).status(-1);

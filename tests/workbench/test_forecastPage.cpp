@@ -201,6 +201,27 @@ TEST_F(ForecastPage, SavesTheBoxesAndLoadsThemBack) {
     EXPECT_EQ(gPronostics->Count(), 4);
 }
 
+TEST_F(ForecastPage, ABoxThatIsSwitchedOffIsNeitherTakenNorFilled) {
+    addDraws();
+    fillBoxes();
+    gPronostics->Item(1).enableN(false);
+    gPronostics->Item(1).n(1);
+    page.txtN[0] = "9";
+    page.txtP[1] = "9";
+    click(forecastPage::computePoints);
+    EXPECT_EQ(desktop.messages.size(), 0U);
+    EXPECT_EQ(gPronostics->Item(1).n(), 1);
+    EXPECT_EQ(gPronostics->Item(2).p(), 0);
+    desktop.answerSave(file("regles.pro"));
+    click(forecastPage::saveRules);
+    desktop.answerOpen(file("regles.pro"));
+    click(forecastPage::loadRules);
+    EXPECT_EQ(page.txtN[0], "9");
+    EXPECT_EQ(page.txtP[1], "9");
+    EXPECT_EQ(gPronostics->Item(1).n(), 1);
+    EXPECT_EQ(gPronostics->Item(2).p(), 0);
+}
+
 TEST_F(ForecastPage, ACancelledDialogChangesNothing) {
     fillBoxes();
     desktop.cancelOpen();

@@ -7,6 +7,9 @@
 #include "forecasts/pronostics.h"
 #include "gamePageTest.h"
 #include "stats/statStores.h"
+#include "support/lottery.h"
+
+#include <algorithm>
 
 namespace boulix {
 namespace {
@@ -127,6 +130,21 @@ TEST_F(GameDesignTest, AWrongSelectionLeavesTheListAsItIs) {
     click(gameDesign::computeGame); // 7 numbers instead of 10
     EXPECT_EQ(desktop.messages.back().title, "boulix: Erreur N° 3101");
     EXPECT_EQ(made().Count(), 7);
+}
+
+TEST_F(GameDesignTest, AFailedCalculationDoesNotMakeTheGameThatOfItsTab) {
+    design.clickTab(gameDesign::manualTab);
+    select(upTo(7));
+    click(gameDesign::computeGame);
+    design.clickTab(gameDesign::reducedTab);
+    click(gameDesign::computeGame); // 7 numbers instead of 10
+    click(gameDesign::addGame);
+    EXPECT_EQ(desktop.messages.back().title, "boulix: Erreur N° 701");
+    EXPECT_EQ(currentGame->Count(), 0);
+    design.clickTab(gameDesign::manualTab);
+    EXPECT_EQ(design.lvwGameDef.rowCount(), 7);
+    click(gameDesign::addGame);
+    EXPECT_EQ(currentGame->Count(), 7);
 }
 
 TEST_F(GameDesignTest, ASecondCalculationAppends) {
@@ -280,6 +298,24 @@ TEST_F(GameDesignTest, TheMissingTripletsMarkAllNumbers) {
     design.chkSelect[gameDesign::missingTriplets] = true;
     clickSelection();
     EXPECT_EQ(marked(), upTo(49));
+}
+
+TEST_F(GameDesignTest, TheMissingTripletsAreThoseOfAllDrawsWithTheirComplementaries) {
+    modStats::InitTripletTable();
+    const std::vector<Numbers> draws = {{1, 2, 3, 4, 5, 6, 7}, {40, 41, 42, 43, 44, 45, 1}};
+    addDraw({1, 2, 3, 4, 5, 6, 7});
+    addDraw({40, 41, 42, 43, 44, 45, 1});
+    design.clickTab(gameDesign::manualTab);
+    design.chkSelect[gameDesign::missingTriplets] = true;
+    clickSelection();
+    for (const modStats::Triplet &triplet : modStats::tripletTable) {
+        const bool drawn = std::any_of(draws.begin(), draws.end(), [&](const Numbers &draw) {
+            return std::all_of(triplet.num.begin(), triplet.num.end(), [&](std::int16_t n) {
+                return std::count(draw.begin(), draw.end(), n) > 0;
+            });
+        });
+        ASSERT_EQ(triplet.flag != 0, drawn) << ::testing::PrintToString(triplet.num);
+    }
 }
 
 TEST_F(GameDesignTest, NumbersOfTheForecastsAreHandedOverThroughTheirSet) {

@@ -61,6 +61,13 @@ TEST_F(GamePageTest, TheRefillShowsItsProgressInTens) {
     EXPECT_EQ(run.last.ProgressBar.value, 20);
 }
 
+TEST_F(GamePageTest, TheBarOfAGameOfOneGridReachesToTwo) {
+    addGrids(1);
+    page.refill();
+    EXPECT_EQ(desktop.progressRuns.at(0).last.ProgressBar.min, 1);
+    EXPECT_EQ(desktop.progressRuns.at(0).last.ProgressBar.max, 2);
+}
+
 TEST_F(GamePageTest, AnEmptyGameIsListedWithoutAProgressWindow) {
     page.refill();
     EXPECT_TRUE(desktop.progressRuns.empty());

@@ -93,6 +93,14 @@ TEST_F(PerformancePage, ChecksTheGameOverRandomDrawsWhichHaveNoDates) {
     EXPECT_TRUE(page.cmdPerfDateEnabled());
 }
 
+TEST_F(PerformancePage, ChecksTheGameOverASingleRandomDraw) {
+    page.clickSubTab(winningsPage::performance);
+    onRandomComb = [](frmRandomComb &) { randomDraws = {lotoCombOf({1, 2, 3, 4, 5, 6, 11})}; };
+    page.clickPerfo(winningsPage::checkRandomDraws);
+    EXPECT_EQ(page.lblVerComb, zerosBut(6, "1"));
+    EXPECT_EQ(page.lblVerPrice, zerosBut(6, "5.5"));
+}
+
 TEST_F(PerformancePage, WithoutRandomDrawsTheResultsAndTheDatesStay) {
     page.clickSubTab(winningsPage::performance);
     page.clickPerfo(winningsPage::checkBase);

@@ -60,6 +60,13 @@ TEST_F(SystemMakerTest, LoweringTheWinningNumbersToTheFixedOnesLowersThoseToo) {
     EXPECT_EQ(maker.nFixed.text, "1");
 }
 
+TEST_F(SystemMakerTest, TheWinningNumbersCanNotStandAtTheFixedOnes) {
+    maker.nFixed.upDownControl.set(2);
+    EXPECT_EQ(value(maker.nWin), 3);
+    maker.nWin.upDownControl.set(2);
+    EXPECT_EQ(value(maker.nFixed), 1);
+}
+
 TEST_F(SystemMakerTest, AConfirmedTextIsBroughtBetweenTheLimits) {
     const std::pair<const char *, const char *> typed[] = {
         {"99999", "49"}, {"-4", "7"},  {"", "7"},      {"  ", "7"},
@@ -77,6 +84,14 @@ TEST_F(SystemMakerTest, TheTextsAreConfirmedInTheirOrderBeforeTheCalculation) {
     click(systemMaker::computeSystem);
     EXPECT_EQ(value(maker.nWin), 6);
     EXPECT_EQ(maker.lblnGameDefComb, "3 combinaisons");
+}
+
+TEST_F(SystemMakerTest, TheWinningNumbersAreConfirmedBeforeTheFixedOnes) {
+    maker.nFixed.upDownControl.set(4);
+    type("3", "5", "8"); // 3, below the four of the up-down control, writes 2 over the 5
+    click(systemMaker::computeSystem);
+    EXPECT_EQ(maker.nWin.text, "3");
+    EXPECT_EQ(maker.nFixed.text, "2");
 }
 
 TEST_F(SystemMakerTest, AComputedSystemIsListedCountedAndPriced) {
@@ -236,6 +251,16 @@ TEST_F(GameListTest, RenommerSetsTheMarkAndTheDropDownGrows) {
     EXPECT_EQ(page.design.cmbGameType().size(), before + 10 + 2);
 }
 
+TEST_F(GameListTest, AListLeftWithoutAChangeLeavesTheDropDownAsItIs) {
+    const Texts before = page.design.cmbGameType();
+    inList([](frmGameList &window) {
+        window.clickRow(1);
+        window.clickButton(frmGameList::displayGame);
+        window.clickButton(frmGameList::quit);
+    });
+    EXPECT_EQ(page.design.cmbGameType(), before);
+}
+
 TEST_F(GameListTest, SupprimerRemovesTheSystemAndItsFile) {
     inList([&](frmGameList &window) {
         window.clickRow(2);
@@ -244,6 +269,7 @@ TEST_F(GameListTest, SupprimerRemovesTheSystemAndItsFile) {
         EXPECT_EQ(window.lvwGame.rowCount(), 2) << "the list keeps its length until the next start";
         window.clickButton(frmGameList::removeGame); // no row is selected any more
     });
+    EXPECT_TRUE(desktop.messages.empty()) << "nor is its file looked for again";
     EXPECT_FALSE(fileExists(file("fgame-0.gam")));
     EXPECT_TRUE(fileExists(file("rgame-0.gam")));
 }
