@@ -115,6 +115,15 @@ TEST_F(EliminatorsFileTest, ASavedLoadedListIsSavedAsPlainFlags) {
     EXPECT_EQ(readInt16(again, 9 * 256 + 2), -1);
 }
 
+TEST_F(EliminatorsFileTest, ALoadForgetsTheKeysOfTheRulesBefore) {
+    savedBytes();
+    eliminators keyed;
+    keyed.Add("avant", 0, 0, 0, 0, "clef");
+    desktop.answerOpen(file("regles.elm"));
+    EXPECT_TRUE(keyed.load());
+    EXPECT_EQ(failureNumber([&] { keyed.Item("clef"); }), 5);
+}
+
 TEST_F(EliminatorsFileTest, SavingOverALongerFileLeavesNothingOfIt) {
     writeBytes(file("regles.elm"), std::string(20000, 'x'));
     EXPECT_EQ(savedBytes().size(), 14596U);
@@ -208,6 +217,21 @@ TEST_F(EliminatorsFileTest, AFullDiskIsARunTimeFailureAndTheRulesStay) {
     desktop.answerSave("/dev/full");
     EXPECT_EQ(failureNumber([&] { rules.save(); }), 61);
     EXPECT_EQ(rules.Count(), 8);
+}
+
+TEST_F(EliminatorsFileTest, TheFileLastLoadedIsKeptAndNamedWhereItIsRefused) {
+    std::string bytes = savedBytes();
+    writeBytes(file("copie.elm"), bytes);
+    EXPECT_TRUE(loadFrom("copie.elm"));
+    EXPECT_EQ(rules.file().name(), "copie.elm");
+    bytes[64] = 5;
+    writeBytes(file("autre.elm"), bytes);
+    EXPECT_FALSE(loadFrom("autre.elm"));
+    EXPECT_EQ(rules.file().name(), "autre.elm");
+    EXPECT_EQ(desktop.messages,
+              (std::vector<ShownBox>{{"Impossible de charger le fichier autre.elm du répertoire " +
+                                          folder() + "/\r\nLe type de fichier n'est pas correct!",
+                                      Icon::information, "boulix: Erreur N° 4402"}}));
 }
 
 TEST_F(EliminatorsFileTest, TheFileLastUsedIsKept) {

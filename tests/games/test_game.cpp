@@ -137,6 +137,17 @@ TEST_F(GameSetTest, RemovingSeveralIsRemovingOneAfterTheOther) {
     }
 }
 
+TEST_F(GameSetTest, KeysFollowTheirGridsWhenSeveralAreRemoved) {
+    grids.Add(GridRef(gameComb({1, 2, 3, 4, 5, 6})), "un");
+    grids.Add(GridRef(gameComb({2, 3, 4, 5, 6, 7})), "deux");
+    grids.Add(GridRef(gameComb({3, 4, 5, 6, 7, 8})), "trois");
+    grids.Remove(
+        std::vector<std::int64_t>{1, 2}); // the second position is the third grid's by then
+    EXPECT_EQ(grids.Item("deux").num(1), 2);
+    for (const char *gone : {"un", "trois"})
+        EXPECT_EQ(failureNumber([&] { grids.Item(gone); }), 5) << gone;
+}
+
 TEST_F(GameSetTest, ClearEmptiesTheGame) {
     fill({{1, 2, 3, 4, 5, 6}, {7, 8, 9, 10, 11, 12}});
     grids.clear();
@@ -175,6 +186,21 @@ TEST_F(GamePrintTest, TheSlipsCarryTheGridsOfTheGame) {
     const auto crosses = testing_support::crossesOf(printers.onlyDocument());
     ASSERT_EQ(crosses.size(), 9U * 6 + 2 * 2); // and two option marks a slip
     EXPECT_TRUE(testing_support::same(crosses[6], testing_support::plainBox(2, 2)));
+}
+
+TEST_F(GamePrintTest, TheGridsOnTheSlipsFollowTheDirectionAndTheOffsetsOfThePrinter) {
+    fill({{12, 12, 12, 12, 12, 12}});
+    printWindows.onGridPreview = [](frmPrintGridPreview &window) { window.clickToolbar(3); };
+    modPrinter::offset_X = 3;
+    modPrinter::offset_Y = 5;
+    for (std::int32_t direction = 0; direction < 4; ++direction) {
+        modPrinter::direction = direction;
+        grids.PrintGameGrid();
+        const auto crosses = testing_support::crossesOf(printers.documents.back());
+        const auto expected =
+            testing_support::plainTurned(testing_support::plainBox(1, 12), direction, 3, 5);
+        EXPECT_TRUE(testing_support::same(crosses.at(0), expected)) << direction;
+    }
 }
 
 TEST_F(GamePrintTest, TheCanvasRunUsesTheSlotsOfTheSheet) {

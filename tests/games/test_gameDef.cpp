@@ -109,6 +109,17 @@ TEST_F(GameDefTest, PrintShowsTheFieldsAndTheRows) {
     EXPECT_TRUE(document.ended);
 }
 
+TEST_F(GameDefTest, ASystemWithoutAFileIsPrintedWithoutAFileName) {
+    gameDef carried;
+    carried.label("Système livré");
+    carried.printDef();
+    const auto lines = printers.onlyDocument().lines();
+    const std::vector<std::string> body(lines.end() - 7, lines.end());
+    EXPECT_EQ(body, (std::vector<std::string>{"Jeu prédéfini: Système livré",
+                                              "Fichier: ", "Numéros fixes: 0", "Numéros Choisis: 0",
+                                              "Numéros gagnants: 0", "Nombre de grilles: 0", ""}));
+}
+
 TEST_F(GameDefTest, WithoutAPrinterNothingIsPrinted) {
     printers.names.clear();
     def.printDef();

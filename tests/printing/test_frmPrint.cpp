@@ -24,6 +24,7 @@ TEST_F(FrmPrintTest, OpensOnTheCurrentValues) {
     EXPECT_EQ(window.optPrintDir, 1);
     EXPECT_TRUE(window.cmdOKEnabled);
     EXPECT_FALSE(window.closed());
+    EXPECT_TRUE(desktop.messages.empty());
 }
 
 TEST_F(FrmPrintTest, WithoutAChoiceTheDefaultPrinterIsChosen) {

@@ -76,6 +76,17 @@ TEST_F(ModPrinterTest, OffsetsAreReadWithADotAndWordsAsZero) {
     EXPECT_EQ(modPrinter::offset_Y, 0.0F);
 }
 
+TEST_F(ModPrinterTest, AnOffsetBeyondAnyMeasureIsZeroAndStopsNothing) {
+    for (const std::size_t digits : {39U, 400U}) {
+        modPrinter::offset_X = 7;
+        settingsAre("offset_X=1" + std::string(digits, '0') + "\r\noffset_Y=2.5\r\n");
+        modPrinter::loadSettings();
+        EXPECT_EQ(modPrinter::offset_X, 0.0F) << digits;
+        EXPECT_EQ(modPrinter::offset_Y, 2.5F) << digits;
+    }
+    EXPECT_TRUE(desktop.messages.empty());
+}
+
 TEST_F(ModPrinterTest, TheSavedPrinterIsChosenWhateverItsCase) {
     printers.names = {"Salon", "Bureau", "BUREAU"};
     printers.standard = "Salon";
@@ -175,6 +186,8 @@ TEST_F(ModPrinterTest, TheCanvasIsTwoBoxesWithAHintAtTheirTop) {
         EXPECT_DOUBLE_EQ(boxes[i].y2, top[i] + 120);
         EXPECT_EQ(boxes[i].penWidth, 2);
         EXPECT_EQ(texts[i].words, "Haut de la grille ici");
+        EXPECT_EQ(texts[i].fontName, "Arial");
+        EXPECT_EQ(texts[i].points, 10);
         EXPECT_DOUBLE_EQ(texts[i].x1, 105 - document.textWidth("Haut de la grille ici") / 2);
         EXPECT_DOUBLE_EQ(texts[i].y1, top[i] + 2 * document.textHeight());
     }

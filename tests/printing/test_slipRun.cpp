@@ -186,6 +186,14 @@ TEST_F(SlipRunTest, AGameWithoutGridsPrintsNothing) {
     EXPECT_TRUE(printers.documents.empty());
 }
 
+TEST_F(SlipRunTest, AGameOfASingleGridIsPrinted) {
+    confirmPreview();
+    slipRun::run(1, Sheets::slips, drawer());
+    EXPECT_EQ(printWindows.previewShowings, 1);
+    EXPECT_TRUE(printers.onlyDocument().ended);
+    EXPECT_EQ(asked, (std::vector<Asked>{{1, 1, 0, 2}}));
+}
+
 TEST_F(SlipRunTest, APrinterThatBreaksDownLeavesNoHalfDocument) {
     confirmPreview();
     printers.breakAtPage = 2;

@@ -147,6 +147,36 @@ TEST_F(EliminatorPageTest, SavingTakesThePageFirstAndLoadingShowsTheRules) {
     EXPECT_GT(refreshes, 0);
 }
 
+TEST_F(EliminatorPageTest, AFileWithAllRulesOnTicksAllBoxesAndFillsTheirTexts) {
+    for (int i = 0; i < 8; ++i)
+        page.tick(i, true);
+    for (int i = 0; i < 7; ++i)
+        page.txtEliminator[static_cast<std::size_t>(i)] = std::to_string(i + 2);
+    desktop.answerSave(file("regles.elm"));
+    click(eliminatorPage::saveRules);
+    page.txtEliminator = {};
+    for (int i = 0; i < 8; ++i)
+        page.tick(i, false);
+    desktop.answerOpen(file("regles.elm"));
+    click(eliminatorPage::loadRules);
+    EXPECT_TRUE(desktop.messages.empty());
+    for (int i = 0; i < 8; ++i)
+        EXPECT_TRUE(page.ticked(i)) << i;
+    for (int i = 0; i < 7; ++i)
+        EXPECT_EQ(page.txtEliminator[static_cast<std::size_t>(i)], std::to_string(i + 2));
+}
+
+TEST_F(EliminatorPageTest, EveryChangeOfTheBoxesIsShownOnTheScreen) {
+    page.tick(3, true);
+    EXPECT_EQ(refreshes, 1);
+    page.fromRules();
+    EXPECT_EQ(refreshes, 2);
+    page.tick(3, true);
+    page.init();
+    EXPECT_EQ(refreshes, 4);
+    EXPECT_FALSE(page.ticked(3)) << "each rule starts off";
+}
+
 TEST_F(EliminatorPageTest, ARefusedFileLeavesTheBoxesAsTheyAre) {
     page.tick(1, true);
     page.txtEliminator[1] = "5";
@@ -179,7 +209,8 @@ TEST_F(EliminatorPageTest, TheListButtonMarksTheListedNumbersAndTakesTheNewOnes)
 }
 
 TEST_F(EliminatorPageTest, ACancelledSelectionEmptiesTheList) {
-    rule(8).eliminNbr(30, -1);
+    for (const int n : {1, 30, 49})
+        rule(8).eliminNbr(n, -1);
     desktop.answerNumbers(NumberScript().cancel());
     page.clickSelectList();
     EXPECT_EQ(listed(), Numbers{});
