@@ -61,6 +61,13 @@ TEST_F(GamePageTest, TheRefillShowsItsProgressInTens) {
     EXPECT_EQ(run.last.ProgressBar.value, 20);
 }
 
+TEST_F(GamePageTest, TheRefillOfAFullTenMovesTheBarToItsEnd) {
+    addGrids(20);
+    page.refill();
+    EXPECT_EQ(desktop.progressRuns.at(0).turns, 2);
+    EXPECT_EQ(desktop.progressRuns.at(0).last.ProgressBar.value, 20);
+}
+
 TEST_F(GamePageTest, TheBarOfAGameOfOneGridReachesToTwo) {
     addGrids(1);
     page.refill();
@@ -237,6 +244,12 @@ TEST_F(GamePageTest, TheMenuOfImprimerPrintsListSlipsAndCanvas) {
     EXPECT_NE(printers.documents[0].lines().back().find("002)"), std::string::npos);
     EXPECT_EQ(printWindows.previewShowings, 2);
     EXPECT_NE(printers.documents[1].drawn[0].x1, printers.documents[2].drawn[0].x1);
+}
+
+TEST_F(GamePageTest, AGameOfASingleGridIsPrintedToo) {
+    addGrids(1);
+    page.clickPrint(gamePage::printList);
+    EXPECT_TRUE(printers.onlyDocument().ended);
 }
 
 TEST_F(GamePageTest, TheButtonImprimerItselfDoesNothing) {

@@ -230,6 +230,17 @@ TEST_F(GameListTest, AClickOnARowShowsTheValuesOfItsSystem) {
     });
 }
 
+TEST_F(GameListTest, AClickBesideTheRowsSelectsNothing) {
+    inList([](frmGameList &window) {
+        for (const std::int64_t row : {-1, 0, 3}) {
+            window.clickRow(row);
+            EXPECT_EQ(window.lblnGrid, "") << row;
+        }
+        window.clickButton(frmGameList::removeGame);
+        EXPECT_FALSE(window.changedMark());
+    });
+}
+
 TEST_F(GameListTest, WithoutASelectedRowTheButtonsDoNothing) {
     inList([](frmGameList &window) {
         for (int button = 1; button <= 5; ++button)
