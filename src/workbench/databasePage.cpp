@@ -9,21 +9,19 @@
 #include "sill/reports.h"
 #include "workbench/windowFrame.h"
 
+#include <iterator>
+#include <memory>
+
 namespace boulix {
 
 namespace {
 
 enum Column { dateColumn, idColumn, firstNumberColumn, complementaryColumn = 8 };
 
-std::string cellText(std::int64_t row, int column) {
-    // The list is asked for its rows while a command is under way, too: the base can be shorter
-    // then than it was when the list was filled.
-    if (row >= gDbCombs->Count())
-        return {};
-    const dbComb &draw = gDbCombs->Item(row + 1);
+std::string cellText(const dbComb &draw, int column) {
     switch (column) {
     case dateColumn:
-        return isValidDate(draw.day()) ? shortDate(draw.day()) : std::string();
+        return shortDate(draw.day());
     case idColumn:
         return std::to_string(draw.id());
     case complementaryColumn:
@@ -33,15 +31,15 @@ std::string cellText(std::int64_t row, int column) {
     }
 }
 
-/// How many draws stand before the first one whose date cannot be shown.
-std::int64_t showableDraws() {
-    std::int64_t count = 0;
+/// The draws up to the first one whose date cannot be shown.
+std::vector<dbComb> showableDraws() {
+    std::vector<dbComb> draws;
     for (const dbComb &draw : *gDbCombs) {
         if (!isValidDate(draw.day()))
             break;
-        ++count;
+        draws.push_back(draw);
     }
-    return count;
+    return draws;
 }
 
 } // namespace
@@ -55,9 +53,12 @@ void databasePage::init() {
 }
 
 void databasePage::fillList() {
-    const std::int64_t rows = showableDraws();
-    lvwDBcomb.rows(rows, cellText);
-    if (rows < gDbCombs->Count())
+    // Copies: until the next filling the list stays as it is, whatever becomes of the base.
+    const auto draws = std::make_shared<const std::vector<dbComb>>(showableDraws());
+    lvwDBcomb.rows(std::ssize(*draws), [draws](std::int64_t row, int column) {
+        return cellText((*draws)[static_cast<std::size_t>(row)], column);
+    });
+    if (std::ssize(*draws) < gDbCombs->Count())
         fail(Failure::overflow);
 }
 
@@ -84,11 +85,9 @@ void databasePage::clickRow(std::int32_t position) {
 
 void databasePage::clickButton(int index) {
     bool carriedThrough = false;
-    if (!runCommand([&] { carriedThrough = runButton(index); }))
-        window_.frmUpdateDBList();
-    else if (!carriedThrough)
-        return;
-    window_.showDrawCount();
+    runCommand([&] { carriedThrough = runButton(index); });
+    if (carriedThrough)
+        window_.showDrawCount();
 }
 
 /// True when the action was carried through.

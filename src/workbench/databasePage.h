@@ -53,8 +53,8 @@ class databasePage {
     /// A click on the row of the draw at `position`, 1 to the number of rows: the board and the
     /// label show it.
     void clickRow(std::int32_t position);
-    /// A click on a button of `tbarDB`. A failure ends the command and is shown, and the list
-    /// then shows what the base holds.
+    /// A click on a button of `tbarDB`. A failure ends the command and is shown; list, status and
+    /// the other pages then stay as after a cancelled command.
     void clickButton(int index);
 
   private:

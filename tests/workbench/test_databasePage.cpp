@@ -17,6 +17,10 @@ namespace {
 
 using testing_support::markedNumbers;
 
+const std::string importHeader =
+    "BOULE1;BOULE2;BOULE3;BOULE4;BOULE5;BOULE6;BOULE_COMPLEMENTAIRE;DATE_DE_TIRAGE;"
+    "1ER_OU_2EME_TIRAGE\r\n";
+
 class DatabasePage : public BoulixTest, protected databaseView {
   protected:
     DatabasePage() : page(mainWindow->database) {
@@ -47,6 +51,29 @@ class DatabasePage : public BoulixTest, protected databaseView {
         return texts;
     }
     std::string status() const { return mainWindow->StatusBar[0]; }
+    /// What the window shows of the base: list, status, up-downs with their limits, the board and
+    /// its label.
+    std::vector<std::string> shown() const {
+        std::vector<std::string> all = {status(), page.lblDBCombDesc};
+        for (std::int64_t i = 0; i < page.lvwDBcomb.rowCount(); ++i)
+            for (const std::string &text : row(i))
+                all.push_back(text);
+        for (const upDown *control :
+             {&mainWindow->winnings.updVerifComb, &mainWindow->statistics.updStatStart,
+              &mainWindow->statistics.updStatEnd, &mainWindow->analysis.updnTirNbr})
+            for (const std::int32_t n : {control->min(), control->max(), control->value()})
+                all.push_back(std::to_string(n));
+        for (const std::int16_t n : markedNumbers(page.grdDB))
+            all.push_back(std::to_string(n));
+        return all;
+    }
+    /// The base can be saved no more.
+    void loseTheFolder() const { gDbCombs->dbFile().path(file("no such folder")); }
+    void importText(const std::string &lines) {
+        testing_support::writeBytes(file("h.txt"), importHeader + lines);
+        desktop.answerOpen(file("h.txt"));
+        page.clickButton(databasePage::importDraws);
+    }
 
     databasePage &page;
     std::vector<std::int64_t> selected;
@@ -144,12 +171,7 @@ TEST_F(DatabasePage, AnImportThatWasDismissedLeavesListAndStatusAlone) {
 
 TEST_F(DatabasePage, AnImportFillsTheListAndTheStatus) {
     startWith({});
-    testing_support::writeBytes(
-        file("h.txt"),
-        "BOULE1;BOULE2;BOULE3;BOULE4;BOULE5;BOULE6;BOULE_COMPLEMENTAIRE;DATE_DE_TIRAGE;"
-        "1ER_OU_2EME_TIRAGE\r\n6;5;4;3;2;1;7;20030104;2\r\n1;2;3;4;5;6;8;20030104;1\r\n");
-    desktop.answerOpen(file("h.txt"));
-    page.clickButton(databasePage::importDraws);
+    importText("6;5;4;3;2;1;7;20030104;2\r\n1;2;3;4;5;6;8;20030104;1\r\n");
     EXPECT_EQ(page.lvwDBcomb.rowCount(), 2);
     EXPECT_EQ(row(0)[1], "1");
     EXPECT_EQ(page.lblDBCombDesc, "Tirage n° 2 du 04/01/2003");
@@ -158,29 +180,116 @@ TEST_F(DatabasePage, AnImportFillsTheListAndTheStatus) {
 
 TEST_F(DatabasePage, AnImportThatEndsWithASingleDrawIsAFailureThatGivesTheWindowBack) {
     startWith({});
-    testing_support::writeBytes(
-        file("h.txt"),
-        "BOULE1;BOULE2;BOULE3;BOULE4;BOULE5;BOULE6;BOULE_COMPLEMENTAIRE;DATE_DE_TIRAGE;"
-        "1ER_OU_2EME_TIRAGE\r\n6;5;4;3;2;1;7;20030104;2\r\n");
-    desktop.answerOpen(file("h.txt"));
-    page.clickButton(databasePage::importDraws);
+    importText("6;5;4;3;2;1;7;20030104;2\r\n");
     ASSERT_EQ(desktop.messages.size(), 1U);
     EXPECT_EQ(desktop.messages[0], (ShownBox{"L'indice n'appartient pas à la sélection",
                                              Icon::critical, "Boulix Erreur système N° 9"}));
     EXPECT_TRUE(desktop.mainWindowEnabled());
-    EXPECT_EQ(page.lvwDBcomb.rowCount(), 1);
+    EXPECT_EQ(page.lvwDBcomb.rowCount(), 0) << "the list is not filled again";
+    EXPECT_EQ(status(), "0 combinaisons dans la base de données");
 }
 
-TEST_F(DatabasePage, AFailedSaveIsShownAndTheListShowsWhatMemoryHolds) {
+TEST_F(DatabasePage, ModifyFillsListBoardLabelAndUpDownsAgain) {
     startWith({draw(2, 1, sevenA), draw(3, 1, sevenB)});
-    gDbCombs->dbFile().path(file("no such folder"));
-    selected = {1};
-    page.clickButton(databasePage::removeDraw);
-    ASSERT_EQ(desktop.messages.size(), 1U);
-    EXPECT_EQ(desktop.messages[0].icon, Icon::critical);
-    ASSERT_EQ(page.lvwDBcomb.rowCount(), 1);
-    EXPECT_EQ(row(0)[0], "03/01/2003");
-    EXPECT_EQ(status(), "1 combinaisons dans la base de données");
+    page.clickRow(1);
+    mainWindow->StatusBar[0] = "old";
+    mainWindow->winnings.updVerifComb.set(1);
+    mainWindow->statistics.updStatEnd.set(1);
+    mainWindow->analysis.updnTirNbr.set(1);
+    selected = {2};
+    desktop.answerNumbers(NumberScript().clear().click({10, 11, 12, 13, 14, 15, 16}).ok());
+    desktop.answerDate({dateOf({2003, 1, 1}), 2});
+    page.clickButton(databasePage::modifyDraw);
+    EXPECT_EQ(shown(), (std::vector<std::string>{"2 combinaisons dans la base de données",
+                                                 "Tirage n° 1 du 02/01/2003",
+                                                 "01/01/2003",
+                                                 "2",
+                                                 "10",
+                                                 "11",
+                                                 "12",
+                                                 "13",
+                                                 "14",
+                                                 "15",
+                                                 "16", //
+                                                 "02/01/2003",
+                                                 "1",
+                                                 "31",
+                                                 "15",
+                                                 "33",
+                                                 "27",
+                                                 "36",
+                                                 "48",
+                                                 "34", //
+                                                 "1",
+                                                 "2",
+                                                 "2",
+                                                 "1",
+                                                 "2",
+                                                 "1",
+                                                 "1",
+                                                 "2",
+                                                 "2",
+                                                 "1",
+                                                 "2",
+                                                 "2", //
+                                                 "31",
+                                                 "15",
+                                                 "33",
+                                                 "27",
+                                                 "36",
+                                                 "48",
+                                                 "34"}));
+}
+
+TEST_F(DatabasePage, AFailedRemovalOrChangeOrEntryLeavesTheWindowAsItIs) {
+    for (const int button :
+         {databasePage::removeDraw, databasePage::modifyDraw, databasePage::enterDraw}) {
+        gDbCombs->clear();
+        startWith({draw(2, 1, sevenA), draw(3, 1, sevenB)});
+        page.clickRow(1);
+        mainWindow->StatusBar[0] = "as it was";
+        mainWindow->statistics.updStatStart.set(2);
+        const std::vector<std::string> before = shown();
+        loseTheFolder();
+        selected = {1};
+        if (button != databasePage::removeDraw) {
+            desktop.answerNumbers(NumberScript().clear().click({10, 11, 12, 13, 14, 15, 16}).ok());
+            desktop.answerDate({dateOf({2003, 1, 20}), 1});
+        }
+        desktop.messages.clear();
+        page.clickButton(button);
+        ASSERT_EQ(desktop.messages.size(), 1U) << button;
+        EXPECT_EQ(desktop.messages[0].icon, Icon::critical) << button;
+        EXPECT_EQ(shown(), before) << button;
+    }
+}
+
+TEST_F(DatabasePage, AnImportThatFailsInItsLinesOrInItsSaveLeavesTheWindowAsItIs) {
+    const std::string earlier = "6;5;4;3;2;1;7;20020104;2\r\n";
+    for (const char *second : {"1;2;3\r\n", "1;2;3;4;5;6;7;20020105;1\r\n"}) {
+        gDbCombs->clear();
+        startWith({draw(2, 1, sevenA), draw(3, 1, sevenB)});
+        mainWindow->StatusBar[0] = "as it was";
+        const std::vector<std::string> before = shown();
+        loseTheFolder();
+        desktop.messages.clear();
+        importText(earlier + second);
+        EXPECT_EQ(desktop.messages.size(), 1U) << second;
+        EXPECT_GT(gDbCombs->Count(), 2) << "memory keeps what was read";
+        EXPECT_EQ(shown(), before) << second;
+        gDbCombs->dbFile().path(folder());
+    }
+}
+
+TEST_F(DatabasePage, AFailedPrintOrExportLeavesTheStatusAsItIs) {
+    startWith(std::vector<dbComb>(1000, draw(2, 1, sevenA)));
+    mainWindow->StatusBar[0] = "as it was";
+    desktop.answerSave(file("no such folder/base.txt"));
+    page.clickButton(databasePage::exportBase);
+    printers.breakAtPage = 2;
+    page.clickButton(databasePage::printBase);
+    EXPECT_EQ(desktop.messages.size(), 2U);
+    EXPECT_EQ(status(), "as it was");
 }
 
 TEST_F(DatabasePage, ExportAndPrintSetTheStatusAgain) {
@@ -188,6 +297,10 @@ TEST_F(DatabasePage, ExportAndPrintSetTheStatusAgain) {
     mainWindow->StatusBar[0] = "old";
     desktop.cancelSave();
     page.clickButton(databasePage::exportBase);
+    EXPECT_EQ(status(), "1 combinaisons dans la base de données");
+    mainWindow->StatusBar[0] = "old";
+    page.clickButton(databasePage::printBase);
+    EXPECT_TRUE(printers.onlyDocument().ended);
     EXPECT_EQ(status(), "1 combinaisons dans la base de données");
 }
 
