@@ -140,7 +140,8 @@ void StatisticsTab::makeRange() {
 }
 
 void StatisticsTab::connectList() {
-    connect(lvwStatsResult, &ReportView::rowClicked, this,
+    lvwStatsResult->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    connect(lvwStatsResult, &ReportView::rowsPicked, this,
             [this] { runCommand([this] { page_.clickList(); }); });
     connect(lvwStatsResult, &ReportView::headerClicked, this,
             [this](int column) { runCommand([&] { page_.clickHeader(column); }); });

@@ -336,13 +336,25 @@ void ReportView::keyPressEvent(QKeyEvent *event) {
     const QModelIndex before = currentIndex();
     QAbstractItemView::keyPressEvent(event);
     tellMoveFrom(before);
+    if (event->key() == Qt::Key_Space || event->key() == Qt::Key_Return ||
+        event->key() == Qt::Key_Enter)
+        emit rowsPicked();
 }
 
+/// Whichever button has marked a row, the row is told: a marked row that nobody knows of would
+/// differ from what is shown beside the list.
 void ReportView::mousePressEvent(QMouseEvent *event) {
     QAbstractItemView::mousePressEvent(event);
     const QModelIndex index = indexAt(event->position().toPoint());
-    if (event->button() == Qt::LeftButton && index.isValid())
+    if (index.isValid())
         emit rowClicked(index.row() + 1);
+}
+
+/// Rows can be drawn together until the button comes up.
+void ReportView::mouseReleaseEvent(QMouseEvent *event) {
+    QAbstractItemView::mouseReleaseEvent(event);
+    if (event->button() == Qt::LeftButton)
+        emit rowsPicked();
 }
 
 void ReportView::mouseMoveEvent(QMouseEvent *event) {

@@ -47,8 +47,11 @@ class ReportView : public QAbstractItemView {
     QSize minimumSizeHint() const override;
 
   signals:
-    /// The user has clicked the row, or gone to it with the keyboard. Counted from 1.
+    /// The user has clicked the row with any button, or gone to it with the keyboard. Counted
+    /// from 1.
     void rowClicked(qint64 row);
+    /// The user has clicked in the list, or pressed Space or Return: the selected rows are meant.
+    void rowsPicked();
     /// The user has clicked the header of a column, counted from 0.
     void headerClicked(int column);
 
@@ -59,6 +62,7 @@ class ReportView : public QAbstractItemView {
     void keyPressEvent(QKeyEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
     void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
     void scrollContentsBy(int dx, int dy) override;
     void updateGeometries() override;

@@ -135,6 +135,16 @@ TEST_F(DatabaseTabTest, AClickedRowIsShownOnTheBoard) {
     EXPECT_EQ(mainWindow->database.getSelectedDraw(), 1);
 }
 
+TEST_F(DatabaseTabTest, ARowMarkedByTheRightButtonIsShownOnTheBoard) {
+    importThreeDraws();
+    clickRow(3);
+    QTest::mouseClick(list().viewport(), Qt::RightButton, {},
+                      list().visualRect(list().model()->index(1, 0)).center());
+    EXPECT_EQ(mainWindow->database.getSelectedDraw(), 2);
+    EXPECT_EQ(label("lblDBCombDesc"), "Tirage n° 2 du 03/01/2001");
+    EXPECT_TRUE(mainWindow->database.grdDB.isComplementary(48));
+}
+
 TEST_F(DatabaseTabTest, TheBoardOnlyDisplays) {
     importThreeDraws();
     auto &board = control<NumberBoardView>(window, "grdDB");

@@ -6,6 +6,7 @@
 #include "core/globals.h"
 #include "draws/dbCombs.h"
 #include "stats/graphSettings.h"
+#include "support/numberScript.h"
 #include "ui/stats/plotView.h"
 #include "ui/support/screenTest.h"
 #include "ui/widgets/numberBall.h"
@@ -14,7 +15,9 @@
 #include "workbench/frmMain.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QCheckBox>
+#include <QClipboard>
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
@@ -26,6 +29,8 @@
 #include <QTabWidget>
 #include <QToolBar>
 #include <QtTest/QTest>
+
+#include <algorithm>
 
 namespace boulix {
 namespace {
@@ -94,6 +99,49 @@ TEST_F(StatisticsTabTest, SelectedRowsJoinTheBoardAndTheStatusBarCountsThem) {
     EXPECT_EQ(label("StatusBar_2"), "1 numéro sélectioné");
     press(statisticsPage::erase);
     EXPECT_EQ(label("StatusBar_2"), "0 numéro sélectioné");
+}
+
+TEST_F(StatisticsTabTest, SeveralRowsAreSelectedAndCopiedTogether) {
+    using Rows = std::vector<std::int64_t>;
+    const auto copied = [this] {
+        control<QAction>(list(), "copySelected").trigger();
+        return QApplication::clipboard()->text().toStdString();
+    };
+    press(statisticsPage::computeType);
+    clickRow(3);
+    clickRow(5, Qt::ShiftModifier);
+    EXPECT_EQ(list().selectedRows(), (Rows{3, 4, 5}));
+    clickRow(8, Qt::ControlModifier);
+    EXPECT_EQ(list().selectedRows(), (Rows{3, 4, 5, 8}));
+    std::string lines;
+    for (const int row : {3, 4, 5, 8})
+        for (const int column : {0, 1})
+            lines += list().model()->index(row - 1, column).data().toString().toStdString() +
+                     (column == 0 ? "\t" : "\n");
+    EXPECT_EQ(copied(), lines);
+    QTest::keyClick(&list(), Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ(list().selectedRows().size(), 49U);
+    const std::string all = copied();
+    EXPECT_EQ(std::count(all.begin(), all.end(), '\n'), 49);
+}
+
+TEST_F(StatisticsTabTest, OnlyAClickSpaceAndReturnAddNumbersToTheBoard) {
+    const NumberBoard &board = mainWindow->statistics.grdStatNbrSelector;
+    press(statisticsPage::computeType);
+    clickRow(2);
+    EXPECT_EQ(testing_support::markedNumbers(board), (std::vector<std::int16_t>{2}));
+    for (const Qt::Key key : {Qt::Key_Down, Qt::Key_PageDown, Qt::Key_End, Qt::Key_4, Qt::Key_Home})
+        QTest::keyClick(&list(), key);
+    QTest::keyClick(&list(), Qt::Key_Down, Qt::ShiftModifier);
+    QTest::mouseClick(list().viewport(), Qt::RightButton, {},
+                      list().visualRect(list().model()->index(6, 0)).center());
+    EXPECT_EQ(testing_support::markedNumbers(board), (std::vector<std::int16_t>{2}));
+    QTest::keyClick(&list(), Qt::Key_Space);
+    EXPECT_EQ(testing_support::markedNumbers(board), (std::vector<std::int16_t>{2, 7}));
+    QTest::keyClick(&list(), Qt::Key_Down, Qt::ShiftModifier);
+    QTest::keyClick(&list(), Qt::Key_Return);
+    EXPECT_EQ(testing_support::markedNumbers(board), (std::vector<std::int16_t>{2, 7, 8}));
+    EXPECT_EQ(label("StatusBar_2"), "3 numéros sélectionés");
 }
 
 TEST_F(StatisticsTabTest, AClickOnAHeaderSortsAndANewResultStandsInComputedOrder) {

@@ -124,6 +124,60 @@ TEST_F(ReportViewTest, TheKeysMoveTheSelectionAndTellTheRow) {
     EXPECT_EQ(told.size(), static_cast<qsizetype>(steps.size()));
 }
 
+TEST_F(ReportViewTest, WhicheverButtonMarksARowTheRowIsTold) {
+    for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton, Qt::MiddleButton}) {
+        show();
+        clickRow(1);
+        QSignalSpy told(view.get(), &ReportView::rowClicked);
+        QTest::mouseClick(view->viewport(), button, {}, middleOf(4));
+        EXPECT_EQ(view->selectedRows(), Rows{5}) << button;
+        ASSERT_EQ(told.size(), 1) << button;
+        EXPECT_EQ(told[0][0].toLongLong(), 5) << button;
+    }
+}
+
+TEST_F(ReportViewTest, RowsArePickedByAClickBySpaceAndByReturnAndByNothingElse) {
+    list.rows(1000, cell);
+    show().setSelectionMode(QAbstractItemView::ExtendedSelection);
+    QSignalSpy picked(view.get(), &ReportView::rowsPicked);
+    clickRow(3);
+    EXPECT_EQ(picked.size(), 1);
+    for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter}) {
+        picked.clear();
+        QTest::keyClick(view.get(), key);
+        EXPECT_EQ(picked.size(), 1) << key;
+    }
+    picked.clear();
+    for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Up, Qt::Key_PageDown, Qt::Key_PageUp,
+                              Qt::Key_End, Qt::Key_Home, Qt::Key_Left, Qt::Key_5, Qt::Key_X}) {
+        QTest::keyClick(view.get(), key);
+        QTest::keyClick(view.get(), key, Qt::ShiftModifier);
+        QTest::keyClick(view.get(), key, Qt::ControlModifier);
+    }
+    QTest::keyClick(view.get(), Qt::Key_A, Qt::ControlModifier);
+    QTest::mouseClick(view->viewport(), Qt::RightButton, {}, middleOf(2));
+    QScrollBar &bar = *view->verticalScrollBar();
+    QTest::mousePress(&bar, Qt::LeftButton, {}, bar.rect().center());
+    QTest::mouseMove(&bar, bar.rect().center() + QPoint(0, 30));
+    QTest::mouseRelease(&bar, Qt::LeftButton, {}, bar.rect().center() + QPoint(0, 30));
+    QTest::mouseClick(view->header()->viewport(), Qt::LeftButton, {}, QPoint(5, 5));
+    EXPECT_EQ(picked.size(), 0);
+}
+
+TEST_F(ReportViewTest, RowsDrawnTogetherArePickedWhenTheButtonComesUp) {
+    show().setSelectionMode(QAbstractItemView::ExtendedSelection);
+    std::vector<Rows> picked;
+    QObject::connect(view.get(), &ReportView::rowsPicked, view.get(),
+                     [&] { picked.push_back(view->selectedRows()); });
+    QTest::mousePress(view->viewport(), Qt::LeftButton, {}, middleOf(1));
+    QMouseEvent drag(QEvent::MouseMove, middleOf(3), view->viewport()->mapToGlobal(middleOf(3)),
+                     Qt::NoButton, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(view->viewport(), &drag);
+    EXPECT_TRUE(picked.empty());
+    QTest::mouseRelease(view->viewport(), Qt::LeftButton, {}, middleOf(3));
+    EXPECT_EQ(picked, (std::vector<Rows>{{2, 3, 4}}));
+}
+
 TEST_F(ReportViewTest, AKeyThatDoesNotMoveTellsNothing) {
     show();
     QTest::keyClick(view.get(), Qt::Key_Down);
