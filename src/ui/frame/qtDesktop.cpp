@@ -14,6 +14,7 @@
 #include "ui/frame/numberDialog.h"
 #include "ui/frame/platformHelp.h"
 #include "ui/frame/progressWindow.h"
+#include "ui/widgets/handsOff.h"
 #include "ui/widgets/qtText.h"
 
 #include <QApplication>
@@ -76,21 +77,15 @@ DrawDate QtDesktop::runDateDialog() {
 }
 
 void QtDesktop::progressLoaded(frmProgress &progress) {
-    if (main_) {
-        focusBefore_ = main_->focusWidget();
-        main_->setEnabled(false);
-    }
+    if (main_ && !handsOff_)
+        handsOff_ = std::make_unique<HandsOff>(*main_);
     progress_ = std::make_unique<ProgressWindow>(progress, main_.get());
     progressDue_ = Clock::now() + progressAfter;
 }
 
 void QtDesktop::progressUnloaded() {
     progress_.reset();
-    if (!main_)
-        return;
-    main_->setEnabled(true);
-    if (focusBefore_)
-        focusBefore_->setFocus();
+    handsOff_.reset();
 }
 
 void QtDesktop::runEvents() {

@@ -16,6 +16,7 @@ class QWidget;
 namespace boulix {
 
 class frmSplash;
+class HandsOff;
 class HelpWindow;
 class ProgressWindow;
 
@@ -64,7 +65,7 @@ class QtDesktop : public Desktop {
     std::unique_ptr<ProgressWindow> progress_;
     std::unique_ptr<frmSplash> splash_;
     QPointer<HelpWindow> help_;
-    QPointer<QWidget> focusBefore_;
+    std::unique_ptr<HandsOff> handsOff_; ///< while a job is under way
     Clock::time_point nextEvents_;
     Clock::time_point progressDue_;
 };

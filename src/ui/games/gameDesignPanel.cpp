@@ -165,6 +165,25 @@ void GameDesignPanel::showGameTypes() {
 }
 
 void GameDesignPanel::refresh() {
+    const QWidget *focus = window()->focusWidget();
+    showControlsOfTab();
+    showGameTypes();
+    const QString count = toQt(design_.txtNrandomGrid);
+    if (txtNrandomGrid->text() != count)
+        txtNrandomGrid->setText(count);
+    for (std::size_t i = 0; i < chkSelect.size(); ++i)
+        chkSelect[i]->setChecked(design_.chkSelect[i]);
+    systems_->refresh();
+    if (focus && isAncestorOf(focus) && !focus->isVisibleTo(this))
+        focusFirstControl();
+}
+
+void GameDesignPanel::passFocusOn() {
+    if (window()->focusWidget() == tabGameDesign)
+        focusFirstControl();
+}
+
+void GameDesignPanel::showControlsOfTab() {
     const int tab = design_.currentTab();
     const bool designs = tab < gameDesign::selectorsTab;
     tabGameDesign->setCurrentIndex(tab);
@@ -175,13 +194,18 @@ void GameDesignPanel::refresh() {
     systems_->setVisible(tab == gameDesign::createTab);
     grids_->setVisible(tab != gameDesign::selectorsTab);
     grdGameDef->setVisible(designs);
-    showGameTypes();
-    const QString count = toQt(design_.txtNrandomGrid);
-    if (txtNrandomGrid->text() != count)
-        txtNrandomGrid->setText(count);
-    for (std::size_t i = 0; i < chkSelect.size(); ++i)
-        chkSelect[i]->setChecked(design_.chkSelect[i]);
-    systems_->refresh();
+}
+
+/// The control that had the focus is not on this tab: Qt would look for the next one anywhere in
+/// the window.
+void GameDesignPanel::focusFirstControl() {
+    QWidget *control = tabGameDesign->nextInFocusChain();
+    while (control != tabGameDesign) {
+        if (isAncestorOf(control) && control->isVisibleTo(this) && control->isEnabled() &&
+            control->focusPolicy() & Qt::TabFocus && !control->focusProxy())
+            return control->setFocus();
+        control = control->nextInFocusChain();
+    }
 }
 
 } // namespace boulix

@@ -30,6 +30,9 @@ class GameDesignPanel : public QWidget {
     explicit GameDesignPanel(gameDesign &design, QWidget *parent = nullptr);
 
     void refresh();
+    /// To be called after the sub-tab has changed. Qt gives the focus to the first control of a
+    /// page; where that is the strip of the methods, the next one takes it.
+    void passFocusOn();
 
   private:
     void makeTabs();
@@ -39,6 +42,8 @@ class GameDesignPanel : public QWidget {
     QWidget *makeSources();
     QWidget *makeGrids();
     void showGameTypes();
+    void showControlsOfTab();
+    void focusFirstControl();
 
     gameDesign &design_;
     QTabBar *tabGameDesign;

@@ -4,6 +4,7 @@
 #include "ui/winnings/winningsPanels.h"
 
 #include "ui/games/randomCombDialog.h"
+#include "ui/widgets/handsOff.h"
 #include "ui/widgets/qtText.h"
 #include "ui/winnings/performancePanel.h"
 #include "ui/winnings/rankTable.h"
@@ -13,6 +14,8 @@
 
 #include <QGridLayout>
 #include <QLabel>
+
+#include <algorithm>
 
 namespace boulix {
 
@@ -81,23 +84,29 @@ void WinningsPanels::refresh() {
         lblVerComb[i]->setText(toQt(page_.lblVerComb[i]));
         lblVerPrice[i]->setText(toQt(page_.lblVerPrice[i]));
     }
+    keepRoomForTitles();
     verification_->refresh();
     performance_->refresh();
     report_->refresh();
     keepHandsOff();
 }
 
+/// On each panel, whichever the titles stand on now: a visit to a sub-tab makes no window larger.
+void WinningsPanels::keepRoomForTitles() {
+    int widest = 0;
+    for (const QLabel *title : lblVerWinTitle)
+        widest = std::max(widest, title->sizeHint().width());
+    for (const auto tab :
+         {winningsPage::verification, winningsPage::performance, winningsPage::report})
+        tableOf(tab).setColumnMinimumWidth(0, widest);
+}
+
 /// A check runs the event queue: meanwhile nobody may change the game that it walks through.
 void WinningsPanels::keepHandsOff() {
-    if (page_.busy() == handsOff_)
-        return;
-    handsOff_ = page_.busy();
-    QWidget *window = parent_->window();
-    if (handsOff_)
-        focusBefore_ = window->focusWidget();
-    window->setEnabled(!handsOff_);
-    if (!handsOff_ && focusBefore_)
-        focusBefore_->setFocus();
+    if (!page_.busy())
+        handsOff_.reset();
+    else if (!handsOff_)
+        handsOff_ = std::make_unique<HandsOff>(*parent_->window());
 }
 
 void WinningsPanels::runRandomComb(frmRandomComb &dialog) {

@@ -6,9 +6,9 @@
 #include "workbench/winningsPage.h"
 
 #include <QObject>
-#include <QPointer>
 
 #include <array>
+#include <memory>
 
 class QGridLayout;
 class QLabel;
@@ -16,6 +16,7 @@ class QWidget;
 
 namespace boulix {
 
+class HandsOff;
 class PerformancePanel;
 class ReportPanel;
 class VerificationPanel;
@@ -44,6 +45,7 @@ class WinningsPanels : public QObject, public winningsView {
     void makeLabels();
     QGridLayout &tableOf(winningsPage::SubTab tab) const;
     static void place(const Labels &labels, QGridLayout &table, int column);
+    void keepRoomForTitles();
     void keepHandsOff();
 
     winningsPage &page_;
@@ -54,8 +56,7 @@ class WinningsPanels : public QObject, public winningsView {
     Labels lblVerWinTitle{};
     Labels lblVerComb{};
     Labels lblVerPrice{};
-    bool handsOff_ = false;
-    QPointer<QWidget> focusBefore_;
+    std::unique_ptr<HandsOff> handsOff_; ///< while a check is under way
 };
 
 } // namespace boulix

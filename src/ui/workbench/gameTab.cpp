@@ -108,8 +108,10 @@ QWidget *GameTab::makeSides(winningsPage &winnings) {
     addSide(winnings_->performance(), QStringLiteral("&Performances"));
     addSide(winnings_->report(), QStringLiteral("&Rapports"));
     addSide(design_, QStringLiteral("Jeu&x"));
-    connect(TabGame, &QTabWidget::currentChanged, this,
-            [&winnings](int index) { winnings.clickSubTab(index); });
+    connect(TabGame, &QTabWidget::currentChanged, this, [this, &winnings](int index) {
+        winnings.clickSubTab(index);
+        design_->passFocusOn();
+    });
     TabGame->setCurrentIndex(TabGame->count() - 1); // a game is made before it wins
     return TabGame;
 }
