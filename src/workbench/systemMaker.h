@@ -31,7 +31,7 @@ class systemMakerView {
 class numberBox {
   public:
     upDown upDownControl;
-    /// What stands in the box: the value, or what the user has typed and not confirmed yet.
+    /// What stands in the box: the value, or what the user has typed and left there.
     std::string text;
 
     void init(std::int32_t first, std::int32_t last, std::int32_t value);

@@ -10,6 +10,7 @@
 #include "ui/widgets/upDownView.h"
 #include "workbench/frmTestProno.h"
 
+#include <QFocusEvent>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -121,7 +122,8 @@ QWidget *TestPronoDialog::makeQuestions() {
 void TestPronoDialog::connectControls() {
     connect(txtNumTir, &QLineEdit::textEdited, this,
             [this](const QString &text) { rules_.editNumTir(fromQt(text)); });
-    connect(txtNumTir, &QLineEdit::editingFinished, this, [this] { rules_.leaveNumTir(); });
+    connect(txtNumTir, &QLineEdit::returnPressed, this, [this] { rules_.leaveNumTir(); });
+    txtNumTir->installEventFilter(this);
     connect(spnTir, &UpDownView::stepped, this, [this](int by) {
         if (by > 0)
             rules_.stepUp();
@@ -136,6 +138,14 @@ void TestPronoDialog::connectControls() {
             [this](const QString &text) { rules_.editNbrCount(fromQt(text)); });
     connect(lvWResult, &ReportView::headerClicked, this,
             [this](int column) { rules_.clickHeader(column); });
+}
+
+/// The box is left with or without a new text in it. Its context menu is a part of it.
+bool TestPronoDialog::eventFilter(QObject *watched, QEvent *event) {
+    if (event->type() == QEvent::FocusOut &&
+        static_cast<const QFocusEvent *>(event)->reason() != Qt::PopupFocusReason)
+        rules_.leaveNumTir();
+    return QDialog::eventFilter(watched, event);
 }
 
 void TestPronoDialog::refresh() {

@@ -23,6 +23,9 @@ class TestPronoDialog : public QDialog {
     explicit TestPronoDialog(frmTestProno &rules, QWidget *parent = nullptr);
     ~TestPronoDialog() override;
 
+  protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
   private:
     void makeToolbar();
     QLineEdit *makeBox(const QString &name);

@@ -27,7 +27,10 @@ bool Application::notify(QObject *receiver, QEvent *event) {
     if (event->type() == QEvent::ThemeChange && receiver->isWindowType())
         theme::followDesktop();
     bool handled = true;
-    runCommand([&] { handled = QApplication::notify(receiver, event); });
+    runCommand([&] {
+        if (!typedText_.takeBefore(*receiver, *event))
+            handled = QApplication::notify(receiver, event);
+    });
     return handled;
 }
 

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "ui/widgets/typedText.h"
+
 #include <QApplication>
 
 namespace boulix {
@@ -15,11 +17,14 @@ class Application : public QApplication {
   public:
     Application(int &argc, char **argv);
 
-    /// A failure that no command has taken ends here: it is shown, and the program lives on.
+    /// What is typed is taken over before a command runs. A failure that no command has taken
+    /// ends here: it is shown, and the program lives on.
     bool notify(QObject *receiver, QEvent *event) override;
 
   private:
     void speakFrench();
+
+    TypedText typedText_;
 };
 
 } // namespace boulix

@@ -73,10 +73,8 @@ UpDownField *SystemMakerPanel::addNumber(QGridLayout &grid, const QString &title
     auto *field = new UpDownField(number.upDownControl, boxName, arrowsName, this);
     auto *box = field->findChild<QLineEdit *>(boxName);
     box->setAccessibleName(title);
-    // A toolbar button takes no focus: what is typed must be there when one is clicked.
-    connect(box, &QLineEdit::textEdited, this,
-            [&number](const QString &text) { number.text = fromQt(text); });
-    connect(field, &UpDownField::boxLeft, this, [this, &number] {
+    connect(field, &UpDownField::boxLeft, this, [this, &number](const QString &text) {
+        number.text = fromQt(text);
         runCommand([&] { number.confirm(); });
         refresh();
     });

@@ -10,6 +10,7 @@
 #include "ui/style/iconLoader.h"
 #include "ui/style/theme.h"
 #include "ui/widgets/qtText.h"
+#include "ui/widgets/typedText.h"
 
 #include <QCheckBox>
 #include <QCloseEvent>
@@ -102,9 +103,9 @@ QWidget *GraphWindow::makeLimits() {
         txtLimit[i] = new QLineEdit(frameManualRange);
         txtLimit[i]->setObjectName(QString::fromLatin1(names[i]));
         txtLimit[i]->setMaximumWidth(fontMetrics().averageCharWidth() * 14);
-        connect(txtLimit[i], &QLineEdit::editingFinished, this, [this, i] {
+        whenLeft(*txtLimit[i], [this, i](const QString &text) {
             const auto limit = static_cast<frmGraph::Limit>(i);
-            runCommand([&] { rules_.leaveLimit(limit, fromQt(txtLimit[i]->text())); });
+            runCommand([&] { rules_.leaveLimit(limit, fromQt(text)); });
         });
         form->addRow(QString::fromLatin1(titles[i]), txtLimit[i]);
     }
@@ -116,7 +117,8 @@ void GraphWindow::refresh() {
     optManualRange->setChecked(!rules_.optAutoRange);
     frameManualRange->setEnabled(rules_.frameManualRangeEnabled);
     for (std::size_t i = 0; i < txtLimit.size(); ++i)
-        txtLimit[i]->setText(toQt(rules_.txtLimit[i]));
+        if (!txtLimit[i]->isModified()) // what is being typed is not written over
+            txtLimit[i]->setText(toQt(rules_.txtLimit[i]));
 }
 
 void GraphWindow::closeEvent(QCloseEvent *event) {

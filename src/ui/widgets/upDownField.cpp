@@ -5,6 +5,7 @@
 
 #include "sill/reports.h"
 #include "sill/upDown.h"
+#include "ui/widgets/typedText.h"
 #include "ui/widgets/upDownView.h"
 
 #include <QHBoxLayout>
@@ -25,7 +26,7 @@ UpDownField::UpDownField(upDown &control, const QString &boxName, const QString 
     arrows_->setFocusPolicy(Qt::NoFocus); // the arrow keys step in the box itself
     setFocusProxy(box_);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    connect(box_, &QLineEdit::editingFinished, this, [this] { emit boxLeft(box_->text()); });
+    whenLeft(*box_, [this](const QString &text) { emit boxLeft(text); });
     connect(arrows_, &UpDownView::valueChanged, this,
             [this](int value) { runCommand([&] { control_.set(value); }); });
 
@@ -41,7 +42,8 @@ void UpDownField::refresh(const QString &text) {
     arrows_->setRange(control_.min(), control_.max());
     arrows_->setValue(control_.value());
     setEnabled(control_.enabled);
-    box_->setText(text);
+    if (!box_->isModified()) // what is being typed is not written over
+        box_->setText(text);
 }
 
 bool UpDownField::eventFilter(QObject *watched, QEvent *event) {

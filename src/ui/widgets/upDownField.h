@@ -13,7 +13,7 @@ class UpDownView;
 class upDown;
 
 /// A text box with the arrows of an up-down control. The arrows step at once; what is typed is
-/// handed over when the focus leaves the box or Return is pressed.
+/// handed over when the focus leaves the box, Return is pressed or a command is given.
 class UpDownField : public QWidget {
     Q_OBJECT
 
@@ -22,11 +22,12 @@ class UpDownField : public QWidget {
     UpDownField(upDown &control, const QString &boxName, const QString &arrowsName,
                 QWidget *parent = nullptr);
 
-    /// Shows the range and the value of the control again, and `text` in the box.
+    /// Shows the range and the value of the control again, and `text` in the box unless the user
+    /// is typing in it.
     void refresh(const QString &text);
 
   signals:
-    /// The user has left the box with this text in it.
+    /// The user has typed this text into the box and left it there.
     void boxLeft(const QString &text);
 
   protected:

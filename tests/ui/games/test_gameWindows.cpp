@@ -27,6 +27,7 @@ class GameListTest : public GameScreenTest {
         auto &box = control<QLineEdit>(window, name);
         box.clear();
         QTest::keyClicks(&box, QString::fromLatin1(text));
+        QTest::keyClick(&box, Qt::Key_Return);
     }
     /// Computes a system and keeps it under `name`.
     void makeSystem(const char *name) {

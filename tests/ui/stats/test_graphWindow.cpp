@@ -3,6 +3,7 @@
 
 // The graph window: the plot under the mouse, its picture as a file, its limits.
 
+#include "core/text.h"
 #include "stats/frmGraph.h"
 #include "stats/graphSettings.h"
 #include "support/boulixTest.h"
@@ -179,8 +180,14 @@ TEST_F(GraphWindowTest, TheRangeZoomedToIsTheManualOne) {
     wheel(1);
     const PlotRange nearer = range();
     EXPECT_NE(nearer, zoomed);
-    for (const char *box : {"txtXMin", "txtXMax", "txtYMin", "txtYMax"})
+    const std::pair<const char *, float> limits[] = {{"txtXMin", nearer.xMin},
+                                                     {"txtXMax", nearer.xMax},
+                                                     {"txtYMin", nearer.yMin},
+                                                     {"txtYMax", nearer.yMax}};
+    for (const auto &[box, limit] : limits) {
+        EXPECT_EQ(control<QLineEdit>(*window, box).text().toStdString(), plainDecimal(limit));
         QTest::keyClick(&control<QLineEdit>(*window, box), Qt::Key_Return);
+    }
     EXPECT_EQ(range(), nearer) << "the boxes have followed";
 }
 
@@ -188,7 +195,9 @@ TEST_F(GraphWindowTest, ImpossibleLimitsAreDrawnAndTheWindowLivesOn) {
     click(control<QRadioButton>(*window, "optManualRange"));
     const auto type = [&](const char *box, const char *text) {
         auto &limit = control<QLineEdit>(*window, box);
-        limit.setText(QString::fromUtf8(text));
+        limit.selectAll();
+        QTest::keyClick(&limit, Qt::Key_Delete);
+        QTest::keyClicks(&limit, QString::fromUtf8(text));
         QTest::keyClick(&limit, Qt::Key_Return);
         QApplication::processEvents();
     };

@@ -229,7 +229,8 @@ TEST_F(StatisticsTabTest, TheGraphWindowsControlsReachTheCurve) {
     control<QRadioButton>(*graph, "optManualRange").click();
     EXPECT_TRUE(control<QGroupBox>(*graph, "frameManualRange").isEnabled());
     auto &yMax = control<QLineEdit>(*graph, "txtYMax");
-    yMax.setText(QStringLiteral("77"));
+    yMax.selectAll();
+    QTest::keyClicks(&yMax, QStringLiteral("77"));
     QTest::keyClick(&yMax, Qt::Key_Return);
     EXPECT_EQ(modStats::graphYMax, 77);
 }
