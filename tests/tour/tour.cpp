@@ -99,6 +99,8 @@ void Tour::turnTo(const char *tabs, int index) {
 
 void Tour::type(const QWidget &window, const std::string &box, const char *text) {
     auto &edit = control<QLineEdit>(window, box.c_str());
+    edit.activateWindow(); // the window manager takes its time behind a dialog
+    EXPECT_TRUE(QTest::qWaitForWindowActive(edit.window()));
     edit.setFocus();
     edit.selectAll();
     QTest::keyClicks(&edit, QString::fromLatin1(text));
