@@ -55,7 +55,7 @@ double toDouble(std::string_view number) {
     const auto result = std::from_chars(number.data(), number.data() + number.size(), value,
                                         std::chars_format::fixed);
     if (result.ec != std::errc::result_out_of_range)
-        return value;
+        return value + 0.0; // "-0" is plain zero
     // Too large for a double, or, with nothing but zeros before the dot, too small.
     if (number.find_first_of("123456789") < number.find('.'))
         fail(Failure::overflow);
@@ -83,7 +83,7 @@ std::int32_t toInt32(double value) {
 }
 
 double numericPrefix(std::string_view text) {
-    while (!text.empty() && (text.front() == ' ' || text.front() == '\t'))
+    while (!text.empty() && text.front() == ' ')
         text.remove_prefix(1);
     return toDouble(text.substr(0, numberLength(text)));
 }

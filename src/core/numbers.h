@@ -33,11 +33,12 @@ inline std::int64_t checkedIndex(std::int64_t index, std::int64_t first, std::in
 }
 
 /// The number at the start of `text`: leading blanks, a sign, digits, a decimal part with a dot;
-/// no exponent, no hexadecimal. 0 where the text does not begin with a number.
+/// no exponent, no hexadecimal. 0 where the text does not begin with a number: a tab is no blank.
+/// A zero never has a sign.
 double numericPrefix(std::string_view text);
 
 /// The whole of `text`, trimmed, as a decimal number (a comma counts as the dot); an empty text
-/// or anything else fails with `Failure::typeMismatch`.
+/// or anything else fails with `Failure::typeMismatch`. A zero never has a sign.
 double wholeNumberText(std::string_view text);
 
 } // namespace boulix

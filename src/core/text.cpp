@@ -86,6 +86,11 @@ char westernByte(char32_t point) {
     return '?';
 }
 
+/// Zero has no sign, be it a negative zero or a value that rounding has made one.
+std::string unsignedZero(const std::string &number) {
+    return number == "-0" ? "0" : number;
+}
+
 char32_t upperCodePoint(char32_t point) {
     if ((point >= 'a' && point <= 'z') || (point >= 0xE0 && point <= 0xFE && point != 0xF7))
         return point - 0x20;
@@ -136,7 +141,7 @@ std::string plainDecimal(float value) {
     std::array<char, 64> buffer{};
     const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
                                    std::chars_format::fixed);
-    return {buffer.data(), end.ptr};
+    return unsignedZero({buffer.data(), end.ptr});
 }
 
 std::string plainAmount(float value) {
@@ -153,7 +158,7 @@ std::string plainAmount(float value) {
         if (text.back() == '.')
             text.pop_back();
     }
-    return text;
+    return unsignedZero(text);
 }
 
 std::string toWestern(std::string_view utf8) {

@@ -27,11 +27,11 @@ std::vector<std::string> split(std::string_view text, char separator);
 std::string zeroPadded(std::int64_t value, int width);
 
 /// `value` as the plain decimal that settings and amounts use: shortest form that reads back as
-/// the same single-precision value, with a dot, never an exponent.
+/// the same single-precision value, with a dot, never an exponent; zero has no sign.
 std::string plainDecimal(float value);
 
 /// A computed amount as it is shown: a plain decimal with the digits that single precision can
-/// vouch for, seven, or all of them before the dot; no zeros at its end.
+/// vouch for, seven, or all of them before the dot; no zeros at its end, no sign before a zero.
 std::string plainAmount(float value);
 
 /// UTF-8 to the single bytes of the Windows Western code page (1252); a character that does not

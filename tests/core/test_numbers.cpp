@@ -72,10 +72,26 @@ TEST(NumericPrefix, TakesSignDigitsAndDecimalPart) {
         {"1.5.2", 1.5},  {".5", 0.5},  {"-.25", -.25}, {"3.", 3},  {"1,5", 1},    {"1e3", 1},
         {"0x10", 0},     {"&H10", 0},  {"1 2", 1},     {"", 0},    {" ", 0},      {"abc", 0},
         {"-", 0},        {"+-1", 0},   {"- 1", 0},     {".", 0},   {"-.", 0},     {"inf", 0},
-        {"nan", 0},      {"007", 7},   {"1\t", 1},     {"\t1", 1}, {"12;13", 12}, {"--1", 0},
+        {"nan", 0},      {"007", 7},   {"1\t", 1},     {"\t1", 0}, {"12;13", 12}, {"--1", 0},
         {"0.6 euro", .6}};
     for (const PrefixCase &expected : cases)
         EXPECT_EQ(numericPrefix(expected.text), expected.value) << '"' << expected.text << '"';
+}
+
+TEST(NumericPrefix, ATabIsNoBlankAndEndsTheLookForANumber) {
+    EXPECT_EQ(numericPrefix(" \t12"), 0);
+    EXPECT_EQ(numericPrefix("\t -12"), 0);
+    EXPECT_EQ(numericPrefix(" 12\t34"), 12);
+    EXPECT_EQ(failureNumber([] { wholeNumberText("\t12"); }), 13);
+}
+
+TEST(NumericPrefix, AZeroHasNoSign) {
+    for (const char *text : {"-0", "-0.0", "-.0", "-0 euro", "- ", "-"})
+        EXPECT_FALSE(std::signbit(numericPrefix(text))) << '"' << text << '"';
+    EXPECT_FALSE(std::signbit(numericPrefix("-0." + std::string(400, '0') + "1")));
+    for (const char *text : {"-0", "-0,0", " -.0 "})
+        EXPECT_FALSE(std::signbit(wholeNumberText(text))) << '"' << text << '"';
+    EXPECT_TRUE(std::signbit(numericPrefix("-0.5")));
 }
 
 TEST(NumericPrefix, AVerySmallNumberIsZeroAndAVeryLargeOneAnOverflow) {

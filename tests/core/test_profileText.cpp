@@ -23,6 +23,7 @@ const std::string edited = "; mes r\xE9glages\r\n"
                            "  imprimante \t=  Canon \xE9"
                            "t\xE9 \t\r\n"
                            "; offset_X=9\r\n"
+                           ";offset_Y=9\r\n"
                            "OFFSET_x=1.5\r\n"
                            "sans valeur\r\n"
                            "inconnu = gard\xE9\r\n"
@@ -44,6 +45,9 @@ TEST(ProfileText, AValueIsFoundUnderItsSectionAndKey) {
         {"impression", "imprimante", "Canon été"}, // trimmed
         {"IMPRESSION", "offset_X", "1.5"},         // capitals do not count, comments neither
         {"impression", "inconnu", "gardé"},
+        {"impression", "; offset_X", std::nullopt}, // a comment is no key, whatever stands in it
+        {"impression", ";offset_Y", std::nullopt},
+        {"impression", "offset_Y", std::nullopt},
         {"impression", "vide", ""},
         {"impression", "sans valeur", std::nullopt}, // no "=" in its line
         {"impression", "prix_grille", std::nullopt}, // another section's
@@ -92,6 +96,11 @@ TEST(ProfileText, AMissingKeyGoesBehindTheLastOneOfItsSection) {
     expected.insert(expected.find("vide=\r\n") + 7, "Direction=haut\r\n");
     EXPECT_EQ(withValue(edited, "impression", "Direction", "haut"), expected);
     EXPECT_EQ(withValue("[s]\n; rien\n\n[t]\n", "s", "k", "1"), "[s]\nk=1\n; rien\n\n[t]\n");
+}
+
+TEST(ProfileText, AMissingKeyDoesNotGoBehindACommentThatHoldsAnEqualsSign) {
+    EXPECT_EQ(withValue("[s]\na=1\n; b=2\n\n[t]\n", "s", "k", "3"),
+              "[s]\na=1\nk=3\n; b=2\n\n[t]\n");
 }
 
 TEST(ProfileText, AMissingSectionGoesToTheEnd) {

@@ -93,6 +93,14 @@ TEST(CodePage, EveryByteComesBackAsItWas) {
     }
 }
 
+TEST(PlainDecimal, AZeroHasNoSign) {
+    EXPECT_EQ(plainDecimal(-0.0F), "0");
+    EXPECT_EQ(plainDecimal(-0.5F), "-0.5");
+    EXPECT_EQ(plainAmount(-0.0F), "0");
+    EXPECT_EQ(plainAmount(-0.0000001F), "0"); // rounded to the digits that are shown
+    EXPECT_EQ(plainAmount(-0.000001F), "-0.000001");
+}
+
 TEST(CodePage, HasTheCharactersOfTheWindowsWesternOne) {
     std::string bytes;
     for (int byte = 0x80; byte < 0xA0; ++byte)
