@@ -62,7 +62,8 @@ void frmRandomComb::compute() {
     draws_.clear();
     platform().seedRandomFromClock();
     const std::int16_t count = toInt16(wholeNumberText(txtnComb));
-    for (std::int16_t i = 1; i <= count; ++i)
+    // 32 bits to count with: 16 of them never get beyond the largest count.
+    for (std::int32_t i = 1; i <= count; ++i)
         draws_.push_back(randomDraw());
     lvWComb.rows(std::ssize(draws_),
                  [this](std::int64_t row, int column) { return cell(row, column); });

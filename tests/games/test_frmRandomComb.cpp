@@ -88,6 +88,17 @@ TEST_F(RandomCombTest, EachCalculationClearsTheListAndSeedsTheSource) {
     EXPECT_EQ(platform.seedings, 2);
 }
 
+TEST_F(RandomCombTest, TheLargestCountOf16BitsIsMadeAndComesToItsEnd) {
+    compute("32767");
+    EXPECT_EQ(dialog.lvWComb.rowCount(), 32767);
+    EXPECT_EQ(dialog.lvWComb.text(32766, 0), "32767");
+    dialog.clickOK();
+    EXPECT_EQ(randomDraws.size(), 32767U);
+    compute("32768");
+    ASSERT_EQ(desktop.messages.size(), 1U);
+    EXPECT_EQ(desktop.messages[0].title, "Boulix Erreur système N° 6");
+}
+
 TEST_F(RandomCombTest, ZeroOrANegativeCountGivesAnEmptyList) {
     compute("0");
     EXPECT_EQ(dialog.lvWComb.rowCount(), 0);
