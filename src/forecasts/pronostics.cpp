@@ -125,8 +125,8 @@ std::int32_t pronostics::nbrPoint(std::int32_t number) const {
 }
 
 void pronostics::selNbr(std::int16_t number) {
-    selected_[place(checkedIndex(nSelected_ + 1, 1, lastNumber))] = number;
-    ++nSelected_;
+    nSelected_ = narrow16(nSelected_ + 1); // counted before its place is looked at
+    selected_[place(checkedIndex(nSelected_, 1, lastNumber))] = number;
 }
 
 std::int16_t pronostics::Selected(std::int16_t i) const {

@@ -65,7 +65,8 @@ class pronostics {
 
     /// Forgets the selected numbers.
     void clearSelection() { nSelected_ = 0; }
-    /// Adds a number to the selection; a fiftieth one fails with `Failure::subscriptOutOfRange`.
+    /// Adds a number to the selection; a fiftieth one fails with `Failure::subscriptOutOfRange`
+    /// and has been counted in `nSelected` by then.
     void selNbr(std::int16_t number);
     std::int16_t nSelected() const { return nSelected_; }
     /// The number at the place `i` of the selection, 1 to 49; any other place fails with
