@@ -313,6 +313,28 @@ TEST_F(FileHead, TheNumbersOfTheTextFormAreNumericPrefixes) {
               6);
 }
 
+TEST_F(FileHead, AKeyOfTheTextFormIsFoundBehindWhateverStandsBeforeIt) {
+    fileHead head;
+    load(head, "debris#SOFTWARE#a#debris#VERSION#b#debris#TYPE#6#debris#CREATEDATE#c"
+               "#debris#MODIFYDATE#d#debris#DATALEN#256");
+    EXPECT_TRUE(desktop.messages.empty());
+    fileHead expected;
+    expected.setFileLen(256);
+    expected.convert("a", "b", 6, "c", "d");
+    expectSame(head, expected);
+}
+
+TEST_F(FileHead, TheValuesOfTheTextFormAreTrimmedOnBothSides) {
+    fileHead head;
+    load(head, "#SOFTWARE#  boulix  #VERSION#   4.0.3 #TYPE#  6 #CREATEDATE# 1/2/2003"
+               "#MODIFYDATE#  3/4/2005  #DATALEN#   256 ");
+    EXPECT_TRUE(desktop.messages.empty());
+    fileHead expected;
+    expected.setFileLen(256);
+    expected.convert("boulix", "4.0.3", 6, "1/2/2003", "3/4/2005");
+    expectSame(head, expected);
+}
+
 TEST_F(FileHead, TheTextFormIsNotStoppedByBytesOfAnyKind) {
     std::mt19937 random(8);
     std::uniform_int_distribution<int> bytes(0, 255);
