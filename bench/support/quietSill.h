@@ -19,7 +19,8 @@ class QuietDesktop : public Desktop {
 
     void showMessage(const std::string &, Icon, const std::string &) override {}
     bool askYesNo(const std::string &, Icon, const std::string &) override { return false; }
-    std::optional<std::string> askText(const std::string &, const std::string &) override {
+    std::optional<std::string> askText(const std::string &, const std::string &,
+                                       std::size_t) override {
         return std::nullopt;
     }
     std::string openFile(const FileQuestion &) override { return fileName; }

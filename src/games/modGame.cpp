@@ -87,6 +87,15 @@ void loadEntry(gameDef &def) {
     }
 }
 
+/// Removes the key of an entry whose file could not be written. The failure of that is the one to
+/// be told; the settings may be out of reach for the same reason.
+void takeKeyBack(const std::string &section, const std::string &key) {
+    try {
+        settings::remove(section, key);
+    } catch (const RuntimeFailure &) {
+    }
+}
+
 [[noreturn]] void failAtFixedGame(const std::string &key, const std::string &fileName) {
     fail(Failure::objectNotSet, "Jeu à positions fixes sans définition: entrée " + key + "=" +
                                     fileName + " de la section [" + fixedSection +
@@ -136,9 +145,22 @@ bool addUserGame(const gameDef &source, GameList &list) {
     def.nCond(source.nCond());
     def.nSelect(source.nSelect());
     def.nFixed(source.nFixed());
-    def.label(desktop().askText("Donnez le nom du jeu", "Définition du nom du jeu").value_or(""));
+    const auto name =
+        desktop().askText("Donnez le nom du jeu", "Définition du nom du jeu", gameDef::maxLabel);
+    def.label(name.value_or(""));
     list.push_back(def);
     return true;
+}
+
+void saveNewGame(GameList &list, std::int16_t nReduced, std::int16_t nFixedGame) {
+    try {
+        list.back().save(nReduced, nFixedGame);
+    } catch (...) {
+        const bool fixed = list.back().nFixed() != 0;
+        list.pop_back();
+        takeKeyBack(fixed ? fixedSection : reducedSection, keyOf(fixed ? nFixedGame : nReduced));
+        throw;
+    }
 }
 
 void removeUserGame(std::int32_t position, GameList &list) {

@@ -57,6 +57,10 @@ void loadUserGames();
 
 /// Asks for a name and adds a definition that shares the rows of `source`. Always true.
 bool addUserGame(const gameDef &source, GameList &list);
+/// Saves the system that `addUserGame` has just put at the end of `list` under the number that
+/// the lists gave before it was added. When that fails, the entry leaves the list and its key the
+/// settings again: the next system gets the same number, and the chain of keys no hole.
+void saveNewGame(GameList &list, std::int16_t nReduced, std::int16_t nFixedGame);
 /// Takes the user system at `position` out: keys and files from there to the end of the list go,
 /// the entries behind move down by one and are saved anew, all under the number of the next new
 /// system. The list keeps its length until the next start, and the key of the entry itself stays.

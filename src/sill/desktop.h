@@ -5,6 +5,7 @@
 
 #include "core/dates.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -49,9 +50,10 @@ class Desktop {
     virtual void showMessage(const std::string &text, Icon icon, const std::string &title) = 0;
     /// A box with yes and no; true for yes.
     virtual bool askYesNo(const std::string &text, Icon icon, const std::string &title) = 0;
-    /// A box with one line to fill in; nothing when it was cancelled.
-    virtual std::optional<std::string> askText(const std::string &prompt,
-                                               const std::string &title) = 0;
+    /// A box with one line to fill in, which takes no more than `maxLength` characters; nothing
+    /// when it was cancelled.
+    virtual std::optional<std::string> askText(const std::string &prompt, const std::string &title,
+                                               std::size_t maxLength) = 0;
 
     /// The full name of an existing file, empty when none was chosen.
     virtual std::string openFile(const FileQuestion &question) = 0;

@@ -104,7 +104,7 @@ void systemMaker::add() {
         fail(Failure::objectNotSet);
     if (!modGame::addUserGame(*newGameDef_, list))
         return;
-    list.back().save(nReduced, nFixedGame);
+    modGame::saveNewGame(list, nReduced, nFixedGame);
     listsChanged();
 }
 

@@ -161,6 +161,7 @@ TEST_F(GameDefFileTest, RenameAsksForTheLabelAndSavesInPlace) {
     savedBytes();
     desktop.answerText("Tout neuf");
     def.rename();
+    EXPECT_EQ(desktop.inputLengths, (std::vector<std::size_t>{126}));
     EXPECT_EQ(desktop.inputs, (std::vector<ShownBox>{{"Donnez le nouveau nom du jeu", Icon::none,
                                                       "Définition du nom du jeu"}}));
     gameDef loaded = placedAt("rgame-0.gam");

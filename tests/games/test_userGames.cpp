@@ -5,6 +5,8 @@
 #include "games/modGame.h"
 #include "support/boulixTest.h"
 
+#include <filesystem>
+
 namespace boulix {
 namespace {
 
@@ -29,7 +31,7 @@ class UserGamesTest : public BoulixTest {
         source.addGameComb(GridRef(gameComb({static_cast<std::int16_t>(mark), 2, 3, 4, 5, 6})));
         desktop.answerText(label);
         modGame::addUserGame(source, list);
-        list.back().save(nReduced, nFixedGame);
+        modGame::saveNewGame(list, nReduced, nFixedGame);
     }
     void restart() {
         modGame::init();
@@ -64,6 +66,7 @@ TEST_F(UserGamesTest, AnAddedGameSharesTheRowsAndTakesTheFields) {
     EXPECT_EQ(added.gameComb(1)->num(1), 9);
     EXPECT_EQ(desktop.inputs, (std::vector<ShownBox>{{"Donnez le nom du jeu", Icon::none,
                                                       "Définition du nom du jeu"}}));
+    EXPECT_EQ(desktop.inputLengths, (std::vector<std::size_t>{126}));
 }
 
 TEST_F(UserGamesTest, ACancelledNameIsTheEmptyLabel) {
@@ -81,6 +84,44 @@ TEST_F(UserGamesTest, SavedGamesComeBackAtTheNextStart) {
     EXPECT_EQ(userLabels(), (Labels{"premier", "deuxième"}));
     EXPECT_EQ(reducedGames[11].gameComb(1)->num(1), 7);
     EXPECT_EQ(modGame::nFixedGames(), 1);
+}
+
+TEST_F(UserGamesTest, ANameOf126CharactersComesBackAtTheNextStart) {
+    std::string name;
+    for (int i = 0; i < 126; ++i)
+        name += i % 2 == 0 ? "é" : "€"; // two and three bytes in memory, one in the file
+    addAndSave(name, 1);
+    restart();
+    EXPECT_EQ(userLabels(), (Labels{name}));
+}
+
+TEST_F(UserGamesTest, AnEntryThatCannotBeSavedLeavesNoHoleInTheChainOfKeys) {
+    addAndSave("premier", 1);
+    std::filesystem::create_directory(file("rgame-1.gam")); // in the way of the second file
+    EXPECT_EQ(failureNumber([&] { addAndSave("deuxième", 2); }), 75);
+    EXPECT_EQ(modGame::nReducedGames(), 10);
+    EXPECT_EQ(settings::read("jeux reduits", "jeu1", "rien"), "rien");
+    std::filesystem::remove(file("rgame-1.gam"));
+    addAndSave("troisième", 3);
+    EXPECT_EQ(settings::read("jeux reduits", "jeu1", "rien"), "rgame-1.gam");
+    restart();
+    EXPECT_EQ(userLabels(), (Labels{"premier", "troisième"}));
+}
+
+TEST_F(UserGamesTest, AFixedPositionEntryThatCannotBeSavedGoesFromItsOwnListAndSection) {
+    addAndSave("réduit", 1);
+    std::filesystem::create_directory(file("fgame-0.gam"));
+    EXPECT_EQ(failureNumber([&] { addAndSave("fixe", 2, 1); }), 75);
+    EXPECT_EQ(modGame::nFixedGames(), 1);
+    EXPECT_EQ(settings::read("jeux a positions fixes", "jeu0", "rien"), "rien");
+    EXPECT_EQ(settings::read("jeux reduits", "jeu0", "rien"), "rgame-0.gam");
+}
+
+TEST_F(UserGamesTest, WhereTheSettingsCannotBeWrittenEitherTheirFailureIsTold) {
+    std::filesystem::create_directory(file("boulix.ini"));
+    EXPECT_EQ(failureNumber([&] { addAndSave("premier", 1); }), 75);
+    EXPECT_EQ(modGame::nReducedGames(), 9);
+    EXPECT_FALSE(fileExists(file("rgame-0.gam")));
 }
 
 TEST_F(UserGamesTest, TheEntriesBehindAGapAreNotRead) {
@@ -134,6 +175,16 @@ TEST_F(UserGamesTest, AFixedPositionEntryFailsAtTheNextStartAndSaysWhere) {
     EXPECT_EQ(failure->description(),
               "Jeu à positions fixes sans définition: entrée jeu0=fgame-0.gam de la section "
               "[jeux a positions fixes] du fichier boulix.ini");
+}
+
+TEST_F(UserGamesTest, AFixedPositionEntryFailsBeforeAnyFileIsRead) {
+    addAndSave("réduit", 1);
+    addAndSave("fixe", 1, 1);
+    writeBytes(file("rgame-0.gam"), "abc");
+    EXPECT_EQ(failureNumber([&] { restart(); }), 91);
+    EXPECT_TRUE(desktop.messages.empty()) << "the spoilt reduced system has not been looked at";
+    EXPECT_EQ(modGame::nReducedGames(), 10);
+    EXPECT_EQ(reducedGames[10].label(), "");
 }
 
 TEST_F(UserGamesTest, RemovingTheLastGameDeletesItsFileAndLeavesItsKey) {

@@ -76,8 +76,10 @@ bool ScriptedDesktop::askYesNo(const std::string &text, Icon icon, const std::st
 }
 
 std::optional<std::string> ScriptedDesktop::askText(const std::string &prompt,
-                                                    const std::string &title) {
+                                                    const std::string &title,
+                                                    std::size_t maxLength) {
     inputs.push_back({prompt, Icon::none, title});
+    inputLengths.push_back(maxLength);
     return nextAnswer<std::optional<std::string>>(texts_, "the input box \"" + prompt + "\"",
                                                   std::nullopt);
 }

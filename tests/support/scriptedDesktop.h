@@ -47,6 +47,7 @@ class ScriptedDesktop : public Desktop {
     std::vector<ShownBox> messages;
     std::vector<ShownBox> questions;
     std::vector<ShownBox> inputs;
+    std::vector<std::size_t> inputLengths; ///< how many characters each input box would take
     std::vector<FileQuestion> openQuestions;
     std::vector<FileQuestion> saveQuestions;
     std::vector<NumberShowing> numberShowings;
@@ -88,8 +89,8 @@ class ScriptedDesktop : public Desktop {
 
     void showMessage(const std::string &text, Icon icon, const std::string &title) override;
     bool askYesNo(const std::string &text, Icon icon, const std::string &title) override;
-    std::optional<std::string> askText(const std::string &prompt,
-                                       const std::string &title) override;
+    std::optional<std::string> askText(const std::string &prompt, const std::string &title,
+                                       std::size_t maxLength) override;
     std::string openFile(const FileQuestion &question) override;
     std::string saveFile(const FileQuestion &question) override;
     void runNumberDialog(frmNbrSelector &dialog) override;

@@ -7,6 +7,8 @@
 #include "gamePageTest.h"
 #include "printing/gridConfig.h"
 
+#include <filesystem>
+
 namespace boulix {
 namespace {
 
@@ -171,6 +173,21 @@ TEST_F(SystemMakerTest, TheSecondSystemGetsTheNextNumber) {
     computeAndAdd("deux");
     EXPECT_TRUE(fileExists(file("rgame-0.gam")));
     EXPECT_TRUE(fileExists(file("rgame-1.gam")));
+}
+
+TEST_F(SystemMakerTest, ASystemWhoseSaveFailsCanBeAddedAgainOnceTheReasonIsGone) {
+    std::filesystem::create_directory(file("rgame-0.gam"));
+    computeAndAdd("un");
+    ASSERT_EQ(desktop.messages.size(), 1U);
+    EXPECT_EQ(desktop.messages[0].title, "Boulix Erreur système N° 75");
+    EXPECT_EQ(modGame::nReducedGames(), 9);
+    std::filesystem::remove(file("rgame-0.gam"));
+    desktop.answerText("un");
+    click(systemMaker::addSystem);
+    modGame::init();
+    modGame::loadUserGames();
+    ASSERT_EQ(modGame::nReducedGames(), 10);
+    EXPECT_EQ(modGame::reducedGames[10].label(), "un");
 }
 
 class GameListTest : public SystemMakerTest, protected gameListView {

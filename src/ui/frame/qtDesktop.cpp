@@ -20,6 +20,7 @@
 #include <QApplication>
 #include <QFileInfo>
 #include <QInputDialog>
+#include <QLineEdit>
 
 namespace boulix {
 
@@ -48,11 +49,14 @@ bool QtDesktop::askYesNo(const std::string &text, Icon icon, const std::string &
     return runMessageBox(parentForDialog(), text, icon, title, buttons) == QMessageBox::Yes;
 }
 
-std::optional<std::string> QtDesktop::askText(const std::string &prompt, const std::string &title) {
+std::optional<std::string> QtDesktop::askText(const std::string &prompt, const std::string &title,
+                                              std::size_t maxLength) {
     QInputDialog dialog(parentForDialog());
     dialog.setObjectName(QStringLiteral("inputBox"));
     dialog.setWindowTitle(toQt(title));
     dialog.setLabelText(linesToQt(prompt));
+    dialog.setTextValue({}); // the line exists from here on
+    dialog.findChild<QLineEdit *>()->setMaxLength(static_cast<int>(maxLength));
     if (dialog.exec() != QDialog::Accepted)
         return std::nullopt;
     return fromQt(dialog.textValue());

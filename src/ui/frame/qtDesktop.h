@@ -29,8 +29,8 @@ class QtDesktop : public Desktop {
 
     void showMessage(const std::string &text, Icon icon, const std::string &title) override;
     bool askYesNo(const std::string &text, Icon icon, const std::string &title) override;
-    std::optional<std::string> askText(const std::string &prompt,
-                                       const std::string &title) override;
+    std::optional<std::string> askText(const std::string &prompt, const std::string &title,
+                                       std::size_t maxLength) override;
 
     std::string openFile(const FileQuestion &question) override;
     std::string saveFile(const FileQuestion &question) override;

@@ -9,6 +9,7 @@
 #include "ui/widgets/upDownView.h"
 
 #include <QCalendarWidget>
+#include <QClipboard>
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QLabel>
@@ -85,9 +86,22 @@ TEST_F(DialogsTest, TheInputBoxGivesWhatWasTypedAndNothingWhenCancelled) {
         box.setTextValue(QStringLiteral("été à l'œuvre"));
         press(Qt::Key_Return);
     });
-    EXPECT_EQ(desktop->askText("Nom du jeu", "Boulix"), "été à l'œuvre");
+    EXPECT_EQ(desktop->askText("Nom du jeu", "Boulix", 126), "été à l'œuvre");
     robot.in("inputBox", [](QWidget &) { press(Qt::Key_Escape); });
-    EXPECT_EQ(desktop->askText("Nom du jeu", "Boulix"), std::nullopt);
+    EXPECT_EQ(desktop->askText("Nom du jeu", "Boulix", 126), std::nullopt);
+}
+
+TEST_F(DialogsTest, TheInputBoxTakesNoMoreCharactersThanItWasGiven) {
+    robot.in("inputBox", [](QWidget &window) {
+        auto &line = *window.findChild<QLineEdit *>();
+        QGuiApplication::clipboard()->setText(QString(130, QChar(0xE9)));
+        line.paste();
+        EXPECT_EQ(line.text(), QString(126, QChar(0xE9)));
+        QTest::keyClick(&line, Qt::Key_X);
+        press(Qt::Key_Return);
+    });
+    EXPECT_EQ(desktop->askText("Nom du jeu", "Boulix", 126),
+              QString(126, QChar(0xE9)).toStdString());
 }
 
 TEST_F(DialogsTest, ConfirmedNumbersComeBackInTheOrderOfMarking) {
