@@ -12,6 +12,12 @@ if(TARGET boulix)
         set(BOULIX_FOLDER \"\${CMAKE_INSTALL_PREFIX}\")
         configure_file(\"${BOULIX_MENU_ENTRY}\" \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/boulix.desktop\" @ONLY)")
 endif()
+# A prize table of zeros to begin with; the player's own is not written over.
+install(CODE "
+    if(NOT EXISTS \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/defrapp.rap\")
+        file(INSTALL \"${PROJECT_SOURCE_DIR}/packaging/defrapp.rap\"
+            DESTINATION \"\${CMAKE_INSTALL_PREFIX}\")
+    endif()")
 install(DIRECTORY "${PROJECT_SOURCE_DIR}/samples/" DESTINATION samples)
 install(DIRECTORY "${PROJECT_SOURCE_DIR}/help/" DESTINATION help)
 install(FILES "${PROJECT_SOURCE_DIR}/LICENSE" DESTINATION .)

@@ -18,6 +18,14 @@ done
 for part in samples help; do
     [ ! -d "$top/$part" ] || diff -r "$top/$part" "$folder/$part" || fail "$part/ is not complete"
 done
+cmp "$top/packaging/defrapp.rap" "$folder/defrapp.rap" || fail "no prize table to begin with"
+printf mine >"$folder/defrapp.rap"
+"$cmake" --install "$build" --prefix "$folder" >/dev/null
+[ "$(cat "$folder/defrapp.rap")" = mine ] || fail "the player's prize table was written over"
+rm "$folder/defrapp.rap"
+"$cmake" --install "$build" --prefix "$folder" >/dev/null
+cmp "$top/packaging/defrapp.rap" "$folder/defrapp.rap" || fail "the missing prize table did not come back"
+
 desktop-file-validate "$folder/boulix.desktop" || fail "the menu entry is not valid"
 grep -qx "Exec=$folder/boulix" "$folder/boulix.desktop" || fail "the menu entry starts something else"
 
