@@ -1,9 +1,11 @@
 // SPDX-FileCopyrightText: The Boulix developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include "sill/folderClaim.h"
 #include "sill/modMain.h"
 #include "sill/reports.h"
 #include "ui/frame/application.h"
+#include "ui/frame/folderLock.h"
 #include "ui/frame/qtDesktop.h"
 #include "ui/frame/qtPlatform.h"
 #include "ui/printing/qtPrintWindows.h"
@@ -20,6 +22,11 @@ int main(int argc, char **argv) {
     boulix::setPrinterSystem(&printers);
     boulix::QtPrintWindows printWindows;
     boulix::setPrintWindows(&printWindows);
+
+    boulix::FolderLock folder(boulix::Application::applicationDirPath());
+    folder.called = [&desktop] { desktop.comeToFront(); };
+    if (!boulix::claimFolder(folder))
+        return 0;
 
     boulix::runCommand(boulix::modMain::Main);
     const bool onScreen = desktop.startEnded();

@@ -154,6 +154,20 @@ bool QtDesktop::startEnded() {
     return splash_ || main_;
 }
 
+void QtDesktop::comeToFront() {
+    QWidget *front = parentForDialog();
+    if (!front)
+        return;
+    for (QWidget *window : {main_.get(), front}) {
+        if (!window)
+            continue;
+        window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
+        window->raise();
+    }
+    front->activateWindow();
+    QApplication::alert(front); // where a window may not take the focus by itself
+}
+
 QWidget *QtDesktop::mainWidget() const {
     return main_.get();
 }

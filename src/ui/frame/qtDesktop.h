@@ -51,6 +51,8 @@ class QtDesktop : public Desktop {
     /// `Main` has returned: a splash window that is still there can be closed by the user. False
     /// when there is no window at all.
     bool startEnded();
+    /// Brings the main window, and the dialog over it where there is one, to the front.
+    void comeToFront();
     /// The main window while there is one.
     QWidget *mainWidget() const;
 
