@@ -3,6 +3,9 @@
 
 #include "core/failure.h"
 
+#include "core/folderAdvice.h"
+#include "core/text.h"
+
 #include <cerrno>
 #include <filesystem>
 #include <system_error>
@@ -99,7 +102,16 @@ void fail(Failure failure, const std::string &description) {
 
 void failForFile(int error, const std::string &path) {
     const Failure failure = failureOf(error, path);
+    const std::string advice = failure == Failure::permissionDenied ? folderAdvice(path) : "";
+    throw RuntimeFailure(failure, std::string(describe(failure)) + " : " + path + advice);
+}
+
+void failForFile(Failure failure, const std::string &path) {
     throw RuntimeFailure(failure, std::string(describe(failure)) + " : " + path);
+}
+
+RuntimeFailure withLine(const RuntimeFailure &failure, const std::string &line) {
+    return {static_cast<Failure>(failure.number()), failure.description() + crlf + line};
 }
 
 } // namespace boulix

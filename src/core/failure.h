@@ -52,7 +52,13 @@ class RuntimeFailure : public std::exception {
 [[noreturn]] void fail(Failure failure, const std::string &description);
 
 /// The failure that stands for the operating system's error number `error` (errno) on the file
-/// `path`; its description names the file.
+/// `path`; its description names the file, and says what to do where the program's own folder
+/// takes no files.
 [[noreturn]] void failForFile(int error, const std::string &path);
+/// A failure on the file `path`, whose description names it.
+[[noreturn]] void failForFile(Failure failure, const std::string &path);
+
+/// `failure` with a line more under its description.
+RuntimeFailure withLine(const RuntimeFailure &failure, const std::string &line);
 
 } // namespace boulix

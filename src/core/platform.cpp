@@ -28,6 +28,10 @@ void wantLargePages(void *memory, std::size_t bytes) {
         currentPlatform->wantLargePages(memory, bytes);
 }
 
+bool isApplicationFolder(const std::string &folder) {
+    return currentPlatform && currentPlatform->applicationFolder() == folder;
+}
+
 std::string shortDate(Date date) {
     if (!isValidDate(date))
         fail(Failure::overflow);

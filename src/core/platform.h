@@ -46,6 +46,9 @@ void setPlatform(Platform *platform);
 /// `Platform::wantLargePages` of the platform in use; nothing where there is none yet.
 void wantLargePages(void *memory, std::size_t bytes);
 
+/// Whether `folder` is the application folder; false where there is no platform yet.
+bool isApplicationFolder(const std::string &folder);
+
 /// `date` in the system's short form; an invalid date fails with `Failure::overflow`.
 std::string shortDate(Date date);
 

@@ -4,6 +4,7 @@
 #include "draws/dbCombs.h"
 
 #include "core/fileAccess.h"
+#include "draws/baseNotes.h"
 #include "files/slotFile.h"
 #include "sill/desktop.h"
 
@@ -84,14 +85,17 @@ void dbCombs::load() {
     }
     SlotReader reader(dbFile_.fullName(), slotLength);
     dbFile_.head().loadRecord(reader);
-    if (!dbFile_.verifyHead(fileType))
+    if (!dbFile_.verifyHead(fileType)) {
+        tellRefusedBase(dbFile_, reader.fileSize());
         return;
+    }
     const std::int32_t count = drawCount(reader.fileSize());
     for (std::int32_t k = 1; k <= count; ++k) {
         desktop().runEvents(); // the splash window stays alive
         const std::string record = reader.read(std::int64_t{k} + 1, recordLength);
         Add(readDouble(record, 0), readInt16(record, 8), combFromRecord(record), false, "");
     }
+    tellCutBase(dbFile_, reader.fileSize(), count);
 }
 
 void dbCombs::save() {

@@ -92,7 +92,7 @@ SlotReader::SlotReader(const std::string &fullName, std::int64_t slotLength)
 std::string SlotReader::read(std::int64_t slot, std::size_t length) {
     const std::int64_t offset = (slot - 1) * slotLength_;
     if (slot < 1 || (slot > 1 && offset >= size_))
-        fail(Failure::inputPastEnd);
+        failForFile(Failure::inputPastEnd, name_);
     const auto there = static_cast<std::size_t>(
         std::min(static_cast<std::int64_t>(length), std::max<std::int64_t>(size_ - offset, 0)));
     const auto bufferEnd = bufferStart_ + static_cast<std::int64_t>(buffer_.size());
@@ -113,7 +113,7 @@ void SlotReader::fillBuffer(std::int64_t offset, std::size_t wanted) {
         return;
     if (std::ferror(file_.get()))
         failForFile(errno, name_);
-    fail(Failure::inputPastEnd); // somebody cut the file while it was being read
+    failForFile(Failure::inputPastEnd, name_); // somebody cut the file while it was being read
 }
 
 void SlotImage::write(std::int64_t slot, std::string_view bytes) {

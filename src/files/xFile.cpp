@@ -20,7 +20,7 @@ namespace boulix {
 namespace {
 
 /// The number before the first dot of a version.
-std::int32_t majorVersion(const std::string &version) {
+std::int32_t majorNumber(const std::string &version) {
     const std::size_t dot = version.find('.');
     if (dot == std::string::npos)
         fail(Failure::invalidCall);
@@ -68,11 +68,20 @@ bool xFile::verifyHead(std::int32_t expectedType) const {
                       "Il ne s'agit pas d'un fichier au format reconnu par " + gAppInfo->name());
     if (head_.typ() != expectedType)
         return refuse(4402, "Le type de fichier n'est pas correct!");
-    const std::int32_t major = majorVersion(head_.version());
+    const std::int32_t major = majorVersion();
     if (major > programMajor)
         return refuse(4403, "Le fichier ne peut être lu qu'à partir de la version " +
                                 std::to_string(major) + "!");
     return true;
+}
+
+std::int32_t xFile::majorVersion() const {
+    try {
+        return majorNumber(head_.version());
+    } catch (const RuntimeFailure &failure) {
+        throw withLine(failure, "La version \"" + trimmed(head_.version()) + "\" du fichier " +
+                                    name_ + " du répertoire " + path_ + " est illisible.");
+    }
 }
 
 void xFile::Remove() const {

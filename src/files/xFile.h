@@ -30,12 +30,15 @@ class xFile {
     /// Whether the file is there.
     bool exist() const;
     /// Whether the header is one that this program reads as `expectedType`. Refusals are reported
-    /// with 4401 to 4403; a version without a dot fails with `Failure::invalidCall`.
+    /// with 4401 to 4403; a version without a dot fails with `Failure::invalidCall`, one without a
+    /// number before it as `wholeNumberText` does. The description names file and version.
     bool verifyHead(std::int32_t expectedType) const;
     /// Deletes the file; a file that cannot be deleted is a run-time failure.
     void Remove() const;
 
   private:
+    std::int32_t majorVersion() const;
+
     std::string path_;
     std::string name_;
     std::string fullName_;

@@ -4,11 +4,13 @@
 #include "games/modGame.h"
 
 #include "core/fileAccess.h"
+#include "core/globals.h"
 #include "core/platform.h"
 #include "core/settings.h"
 #include "core/text.h"
 #include "files/xFile.h"
 #include "games/predefinedSystems.h"
+#include "sill/appInfo.h"
 #include "sill/desktop.h"
 #include "sill/reports.h"
 
@@ -96,13 +98,22 @@ void takeKeyBack(const std::string &section, const std::string &key) {
     }
 }
 
-[[noreturn]] void failAtFixedGame(const std::string &key, const std::string &fileName) {
-    fail(Failure::objectNotSet, "Jeu à positions fixes sans définition: entrée " + key + "=" +
-                                    fileName + " de la section [" + fixedSection +
-                                    "] du fichier boulix.ini");
-}
-
 } // namespace
+
+FixedGameFailure::FixedGameFailure(const std::string &key, const std::string &fileName)
+    : RuntimeFailure(Failure::objectNotSet, "Jeu à positions fixes sans définition: entrée " + key +
+                                                "=" + fileName + " de la section [" + fixedSection +
+                                                "] du fichier boulix.ini"),
+      key_(key), fileName_(fileName) {}
+
+bool FixedGameFailure::offerRemoval() const {
+    const std::string question = "Boulix ne démarre pas tant que l'entrée " + key_ + "=" +
+                                 fileName_ + " est dans le fichier boulix.ini." + crlf +
+                                 "Voulez-vous l'enlever et démarrer? Le fichier " + fileName_ +
+                                 " restera dans le dossier.";
+    return desktop().askYesNo(question, Icon::question, gAppInfo->name()) &&
+           runCommand([this] { settings::remove(fixedSection, key_); });
+}
 
 void init() {
     reducedGames.resize(1);
@@ -132,7 +143,7 @@ void loadUserGames() {
     // first one stops the start, as it always has.
     const std::string fixed = settings::read(fixedSection, keyOf(0), noEntry);
     if (fixed != noEntry)
-        failAtFixedGame(keyOf(0), fixed);
+        throw FixedGameFailure(keyOf(0), fixed);
     for (std::size_t i = nPredefReduced + 1; i < reducedGames.size(); ++i)
         loadEntry(reducedGames[i]);
 }

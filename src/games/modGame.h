@@ -3,11 +3,13 @@
 
 #pragma once
 
+#include "core/failure.h"
 #include "games/gameComb.h"
 #include "games/gameDef.h"
 
 #include <array>
 #include <cstdint>
+#include <string>
 #include <vector>
 
 /// The systems of play that the player can choose from, and two tables of positions and couples.
@@ -49,10 +51,25 @@ inline std::array<std::array<std::int16_t, coupleCount + 1>, 2> coupleTable{};
 
 /// Start-up: fills both lists with the systems that the program carries, and the tables.
 void init();
+/// What an entry of a fixed-position game does to the start: the program writes such entries and
+/// cannot read them back.
+class FixedGameFailure : public RuntimeFailure {
+  public:
+    FixedGameFailure(const std::string &key, const std::string &fileName);
+
+    /// Offers the user to take the entry out of the settings, which is what lets the program start
+    /// again. True when it is out.
+    bool offerRemoval() const;
+
+  private:
+    std::string key_;
+    std::string fileName_;
+};
+
 /// Start-up: adds the reduced systems that the settings file names, up to the first number
 /// missing there, and reads them. One that cannot be read stays in the list without rows, after a
-/// message. An entry of a fixed-position game fails with `Failure::objectNotSet`, its text names
-/// the entry.
+/// message. An entry of a fixed-position game fails with `FixedGameFailure`, before any file is
+/// read.
 void loadUserGames();
 
 /// Asks for a name and adds a definition that shares the rows of `source`. Always true.

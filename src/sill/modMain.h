@@ -18,6 +18,7 @@ inline std::ofstream gLogFile;
 inline std::string gCurrentDir;
 
 /// The program's entry: log, identity, splash, all initialisations in their order, main window.
+/// Where an entry of the settings stops the start and the user has it taken out, it begins anew.
 void Main();
 
 /// The tokens of the command line, parted by blanks and tabs, at most `maxArgs` of them.

@@ -59,7 +59,9 @@ void databasePage::fillList() {
         return cellText((*draws)[static_cast<std::size_t>(row)], column);
     });
     if (std::ssize(*draws) < gDbCombs->Count())
-        fail(Failure::overflow);
+        throw withLine(RuntimeFailure(Failure::overflow),
+                       "La date du tirage n° " + std::to_string(std::ssize(*draws) + 1) +
+                           " du fichier " + gDbCombs->dbFile().name() + " est illisible.");
 }
 
 std::int32_t databasePage::getSelectedDraw() const {

@@ -8,11 +8,14 @@
 #include "core/platform.h"
 #include "core/text.h"
 #include "draws/dbCombs.h"
+#include "games/modGame.h"
 #include "sill/appInfo.h"
 #include "sill/desktop.h"
 #include "sill/reports.h"
 #include "workbench/frmMain.h"
 #include "workbench/startUpSteps.h"
+
+#include <optional>
 
 namespace boulix::modMain {
 
@@ -39,9 +42,7 @@ void initialise() {
     desktop().unloadSplash();
 }
 
-} // namespace
-
-void Main() {
+void prepare() {
     gDebug = false;
     if (parseCommandLine(1)[1] == "-debug")
         openLog();
@@ -51,10 +52,28 @@ void Main() {
     gDbCombs->dbFile().path(gCurrentDir);
     gDbCombs->dbFile().name("tirages.dbl");
     gAppInfo->showSplash();
+}
+
+/// One start, as far as it comes. True when it failed at an entry of the settings that the user
+/// then had taken out: the next one comes further.
+bool startOnce() {
+    prepare();
+    std::optional<modGame::FixedGameFailure> atEntry;
     try {
         initialise();
+    } catch (const modGame::FixedGameFailure &failure) {
+        handleUnexpected(failure);
+        atEntry = failure;
     } catch (const RuntimeFailure &failure) {
         handleUnexpected(failure);
+    }
+    return atEntry && atEntry->offerRemoval();
+}
+
+} // namespace
+
+void Main() {
+    while (startOnce()) {
     }
 }
 

@@ -3,6 +3,7 @@
 
 #include "workbench/startUpSteps.h"
 
+#include "core/failure.h"
 #include "core/globals.h"
 #include "core/modMaths.h"
 #include "draws/dbCombs.h"
@@ -16,6 +17,8 @@
 #include "stats/statTypes.h"
 #include "winnings/rapport.h"
 
+#include <string>
+
 namespace boulix::modMain {
 
 namespace {
@@ -23,6 +26,22 @@ namespace {
 void initGameTypes() {
     modStats::InitTripletTable();
     modGame::init();
+}
+
+/// A base that cannot be read ends the start. Its file is named with what takes it out of the way.
+void loadBase() {
+    try {
+        gDbCombs->load();
+    } catch (const RuntimeFailure &failure) {
+        const xFile &file = gDbCombs->dbFile();
+        if (!file.exist()) // it could not be made: its folder is to blame
+            throw;
+        throw withLine(failure, "Boulix ne démarre pas avec le fichier " + file.name() +
+                                    " du répertoire " + file.path() +
+                                    " (tirages lus: " + std::to_string(gDbCombs->Count()) +
+                                    "). Mettez-le dans un autre dossier pour démarrer avec une "
+                                    "base vide.");
+    }
 }
 
 } // namespace
@@ -36,7 +55,7 @@ const std::vector<StartUpStep> &startUpSteps() {
         {"Chargement des jeux réduits utilisateur", modGame::loadUserGames},
         {"Initialisation des paramètres d'impression", modPrinter::loadSettings},
         {"Initialisation des paramètres de grille", [] { gGridConfig->load(); }},
-        {"Chargement en mémoire de la base de données des tirages", [] { gDbCombs->load(); }},
+        {"Chargement en mémoire de la base de données des tirages", loadBase},
         {"Chargement du fichier de rapport par défaut", [] { gRapport->loadDefFile(); }},
         {"Initialisation des éliminateurs", [] { gEliminators->init(); }, true},
         {"Initialisation des pronostiques", [] { gPronostics->init(); }, true},

@@ -74,6 +74,19 @@ TEST(Failures, AFailureOfAFileNamesTheFile) {
     EXPECT_EQ(failure->description(), "Disque plein : /tmp/tirages.dbl");
 }
 
+TEST(Failures, AFailureKnownByItsNumberCanNameItsFileToo) {
+    const auto failure = failureOf([] { failForFile(Failure::inputPastEnd, "/tmp/a.lst"); });
+    ASSERT_TRUE(failure);
+    EXPECT_EQ(failure->number(), 62);
+    EXPECT_EQ(failure->description(), "Lecture au-delà de la fin du fichier : /tmp/a.lst");
+}
+
+TEST(Failures, ALineMoreGoesUnderTheDescriptionAndTheNumberStays) {
+    const RuntimeFailure failure = withLine(RuntimeFailure(Failure::overflow), "Tirage n° 3.");
+    EXPECT_EQ(failure.number(), 6);
+    EXPECT_EQ(failure.description(), "Dépassement de capacité\r\nTirage n° 3.");
+}
+
 TEST(Failures, AMissingFolderIsToldApartFromAMissingFile) {
     EXPECT_EQ(failureNumber([] { failForFile(ENOENT, "/tmp/no such file"); }), 53);
     EXPECT_EQ(failureNumber([] { failForFile(ENOENT, "/no such folder/file"); }), 76);

@@ -115,8 +115,9 @@ TEST_F(ImportCancel, WithABaseThatCannotBeLoadedAgainEndsWithTheReportAndAnEmpty
     desktop.onEvents = [&] { writeBytes(baseFile(), "no base"); };
     EXPECT_FALSE(importCancelledAt(fileLines + 1));
     EXPECT_EQ(gDbCombs->Count(), 0);
-    ASSERT_EQ(desktop.messages.size(), 1U);
+    ASSERT_EQ(desktop.messages.size(), 2U);
     EXPECT_EQ(desktop.messages[0].title, "boulix: Erreur N° 4401");
+    EXPECT_NE(desktop.messages[1].text.find("La base des tirages est vide."), std::string::npos);
     EXPECT_EQ(baseFileBytes(), "no base");
 }
 

@@ -37,12 +37,33 @@ class DrawBaseLoad : public DrawsTest {
     ShownBox foreignFile() const {
         return refusal(4401, "Il ne s'agit pas d'un fichier au format reconnu par boulix");
     }
-    /// The file was refused with just this report: no draw in memory, the file as it was.
+    /// What the user is told behind the report about a refused file of `size` bytes.
+    ShownBox emptyBase(std::size_t size) const {
+        std::string text;
+        if (size < 86)
+            text = "Le fichier tirages.dbl du répertoire " + folder() + " est trop court: il a " +
+                   std::to_string(size) + " octets, et son en-tête seul en a 86.\r\n";
+        return {text + "La base des tirages est vide. Le fichier tirages.dbl reste comme il est "
+                       "jusqu'au premier changement de la base, qui le remplacera: mettez-le "
+                       "d'abord en lieu sûr.",
+                Icon::information, "boulix"};
+    }
+    /// What the user is told about a file that ends in the middle of draw `number`.
+    ShownBox cutBase(std::size_t number, bool counted) const {
+        return {"Le fichier tirages.dbl du répertoire " + folder() +
+                    " est trop court: il finit au milieu du tirage n° " + std::to_string(number) +
+                    (counted ? ".\r\nCe qui manque à ce tirage compte pour 0: corrigez-le ou "
+                               "supprimez-le."
+                             : ".\r\nCe tirage n'est pas repris dans la base."),
+                Icon::information, "boulix"};
+    }
+    /// The file was refused with this report and the reminder behind it: no draw in memory, the
+    /// file as it was.
     void expectRefused(const std::string &bytes, const ShownBox &report) {
         desktop.messages.clear();
         add(twoDraws[0]);
         EXPECT_EQ(load(bytes), 0);
-        EXPECT_EQ(desktop.messages, std::vector<ShownBox>{report});
+        EXPECT_EQ(desktop.messages, (std::vector<ShownBox>{report, emptyBase(bytes.size())}));
         EXPECT_EQ(gDbCombs->Count(), 0);
         EXPECT_EQ(baseFileBytes(), bytes);
     }
@@ -182,11 +203,16 @@ TEST_F(DrawBaseLoad, AFileCutBehindItsHeaderGivesTheDrawsThatAreMoreThanHalfTher
     whole.resize(384);
     for (std::size_t length = 86; length <= 300; ++length) {
         const std::string cut = whole.substr(0, length);
+        desktop.messages.clear();
         EXPECT_EQ(load(cut), 0) << length;
         EXPECT_EQ(rows(), rowsOfCutFile(cut)) << length;
         EXPECT_EQ(baseFileBytes(), cut) << length;
+        std::vector<ShownBox> told;
+        for (const std::size_t draw : {1U, 2U}) // the draw's first byte is there, its last is not
+            if (length > 128 * draw && length < 128 * draw + 28)
+                told.push_back(cutBase(draw, rows().size() >= draw));
+        EXPECT_EQ(desktop.messages, told) << length;
     }
-    EXPECT_TRUE(desktop.messages.empty());
 }
 
 TEST_F(DrawBaseLoad, CountsHalfASlotToTheEvenNumberOfDraws) {

@@ -127,7 +127,10 @@ TEST_F(BaseWithoutRights, AFolderThatCannotBeWrittenTakesNoExport) {
     });
     ASSERT_TRUE(failure);
     EXPECT_EQ(failure->number(), 70);
-    EXPECT_EQ(failure->description(), "Permission refusée : " + file("base.txt"));
+    EXPECT_EQ(failure->description(),
+              "Permission refusée : " + file("base.txt") + "\r\nLe dossier " + folder() +
+                  " est protégé en écriture: copiez-le à un endroit où vous pouvez écrire, puis "
+                  "démarrez Boulix depuis cette copie.");
     expectBaseKept();
 }
 

@@ -130,7 +130,10 @@ TEST_F(SlotFile, MissingBytesOfTheLastSlotReadAsZero) {
 TEST_F(SlotFile, ASlotAtOrBehindTheEndIsAFailure) {
     writeBytes(name(), "12345678");
     SlotReader reader(name(), 8);
-    EXPECT_EQ(failureNumber([&reader] { reader.read(2, 4); }), 62);
+    const auto failure = failureOf([&reader] { reader.read(2, 4); });
+    ASSERT_TRUE(failure);
+    EXPECT_EQ(failure->number(), 62);
+    EXPECT_EQ(failure->description(), "Lecture au-delà de la fin du fichier : " + name());
     EXPECT_EQ(failureNumber([&reader] { reader.read(1000, 4); }), 62);
     EXPECT_EQ(failureNumber([&reader] { reader.read(0, 4); }), 62);
 }

@@ -199,6 +199,22 @@ TEST_F(XFile, AVersionThatIsNoneIsARunTimeFailure) {
     EXPECT_TRUE(desktop.messages.empty());
 }
 
+TEST_F(XFile, TheFailureOfAVersionKeepsItsFirstLineAndNamesFileAndVersion) {
+    const std::pair<const char *, const char *> versions[] = {
+        {"4", "Appel de procédure ou argument incorrect"},
+        {"", "Appel de procédure ou argument incorrect"},
+        {"x.1", "Incompatibilité de type"},
+        {"99999999999.1", "Dépassement de capacité"}};
+    for (const auto &[version, firstLine] : versions) {
+        data.head().version(version);
+        const auto failure = failureOf([this] { data.verifyHead(1); });
+        ASSERT_TRUE(failure) << version;
+        EXPECT_EQ(failure->description(), firstLine + ("\r\nLa version \"" + std::string(version)) +
+                                              "\" du fichier " + data.name() + " du répertoire " +
+                                              data.path() + " est illisible.");
+    }
+}
+
 TEST_F(XFile, TheSoftwareIsLookedAtBeforeTheTypeAndTheTypeBeforeTheVersion) {
     data.head().software("autre");
     data.head().version("5.0.0");

@@ -162,7 +162,8 @@ TEST_F(UserGamesTest, AGameWhoseFileIsMissingOrCutStaysWithoutRowsAfterOneMessag
                                     file("rgame-0.gam"),
                                 Icon::critical, "Boulix Erreur système N° 53"},
                                {"Impossible de charger le jeu réduit utilisateur rgame-1.gam:\r\n"
-                                "Lecture au-delà de la fin du fichier",
+                                "Lecture au-delà de la fin du fichier : " +
+                                    file("rgame-1.gam"),
                                 Icon::critical, "Boulix Erreur système N° 62"}}));
 }
 
@@ -182,6 +183,7 @@ TEST_F(UserGamesTest, AFixedPositionEntryFailsBeforeAnyFileIsRead) {
     addAndSave("fixe", 1, 1);
     writeBytes(file("rgame-0.gam"), "abc");
     EXPECT_EQ(failureNumber([&] { restart(); }), 91);
+    EXPECT_TRUE(desktop.questions.empty()) << "the offer is the start's";
     EXPECT_TRUE(desktop.messages.empty()) << "the spoilt reduced system has not been looked at";
     EXPECT_EQ(modGame::nReducedGames(), 10);
     EXPECT_EQ(reducedGames[10].label(), "");

@@ -119,8 +119,11 @@ TEST_F(MainWindow, ADrawWithoutADateEndsTheRefillWithOneMessageAndKeepsTheRowsBe
     addDraw(4, 1);
     mainWindow->load();
     ASSERT_EQ(desktop.messages.size(), 1U);
-    EXPECT_EQ(desktop.messages[0],
-              (ShownBox{"Dépassement de capacité", Icon::critical, "Boulix Erreur système N° 6"}));
+    EXPECT_EQ(
+        desktop.messages[0],
+        (ShownBox{"Dépassement de capacité\r\nLa date du tirage n° 2 du fichier tirages.dbl est "
+                  "illisible.",
+                  Icon::critical, "Boulix Erreur système N° 6"}));
     EXPECT_EQ(mainWindow->database.lvwDBcomb.rowCount(), 1);
     EXPECT_EQ(mainWindow->StatusBar[0], "3 combinaisons dans la base de données");
 }

@@ -8,6 +8,7 @@
 #include "core/text.h"
 #include "draws/dbCombs.h"
 #include "eliminators/eliminators.h"
+#include "files/slotFile.h"
 #include "forecasts/pronostics.h"
 #include "games/modGame.h"
 #include "printing/gridConfig.h"
@@ -16,10 +17,13 @@
 #include "sill/modMain.h"
 #include "stats/graphSettings.h"
 #include "support/boulixTest.h"
+#include "support/locations.h"
+#include "support/withoutRights.h"
 #include "winnings/rapport.h"
 #include "workbench/frmMain.h"
 
 #include <filesystem>
+#include <random>
 #include <string>
 #include <vector>
 
@@ -28,9 +32,20 @@ namespace {
 
 class StartUp : public FreshProgramTest {
   protected:
+    /// A default prize table, without which every start begins with a message.
+    void putDefaultPrizes() {
+        gAppInfo->init("", "", "", 2003);
+        rapport().save(file("defrapp.rap"));
+        resetGlobals();
+    }
     void start(const std::string &arguments) {
         platform.arguments = arguments;
         modMain::Main();
+    }
+    std::string doesNotStart(int drawsRead) const {
+        return "Boulix ne démarre pas avec le fichier tirages.dbl du répertoire " + folder() +
+               " (tirages lus: " + std::to_string(drawsRead) +
+               "). Mettez-le dans un autre dossier pour démarrer avec une base vide.";
     }
     std::vector<std::string> logLines() {
         modMain::gLogFile.flush();
@@ -242,15 +257,160 @@ TEST_F(StartUp, AUserSystemWhoseFileIsGoneIsToldAndTheStartGoesOn) {
 }
 
 TEST_F(StartUp, AnEntryOfAFixedPositionSystemStopsTheStart) {
-    testing_support::writeBytes(file("boulix.ini"),
-                                "[jeux a positions fixes]\r\njeu0=fgame-0.gam\r\n");
+    const std::string entries = "[jeux a positions fixes]\r\njeu0=fgame-0.gam\r\n";
+    writeBytes(file("boulix.ini"), entries);
+    desktop.answerNo();
     start("");
     ASSERT_EQ(desktop.messages.size(), 1U);
     EXPECT_EQ(desktop.messages[0],
               (ShownBox{"Jeu à positions fixes sans définition: entrée jeu0=fgame-0.gam de la "
                         "section [jeux a positions fixes] du fichier boulix.ini",
                         Icon::critical, "Boulix Erreur système N° 91"}));
+    EXPECT_EQ(
+        desktop.questions,
+        (std::vector<ShownBox>{{"Boulix ne démarre pas tant que l'entrée jeu0=fgame-0.gam est "
+                                "dans le fichier boulix.ini.\r\nVoulez-vous l'enlever et "
+                                "démarrer? Le fichier fgame-0.gam restera dans le dossier.",
+                                Icon::question, "boulix"}}));
     EXPECT_FALSE(desktop.mainWindowShown);
+    EXPECT_EQ(readBytes(file("boulix.ini")), entries);
+}
+
+TEST_F(StartUp, AnEntryOfAFixedPositionSystemIsTakenOutWhenTheUserWantsSo) {
+    writeBytes(file("boulix.ini"), "; à moi\r\n[jeux a positions fixes]\r\njeu0=fgame-0.gam\r\n"
+                                   "jeu1=fgame-1.gam\r\n");
+    writeBytes(file("fgame-0.gam"), "abc");
+    putDefaultPrizes();
+    desktop.answerYes();
+    start("-debug");
+    EXPECT_EQ(desktop.messages.size(), 1U) << "the failure, and nothing after it";
+    EXPECT_TRUE(desktop.mainWindowShown);
+    EXPECT_FALSE(desktop.splashVisible);
+    EXPECT_EQ(readBytes(file("boulix.ini")),
+              "; à moi\r\n[jeux a positions fixes]\r\njeu1=fgame-1.gam\r\n");
+    EXPECT_EQ(readBytes(file("fgame-0.gam")), "abc");
+    EXPECT_EQ(modGame::nReducedGames(), 9);
+    EXPECT_EQ(gPronostics->Count(), 4);
+    EXPECT_EQ(logLines(), wholeLog) << "the log tells the start that came to its end";
+}
+
+TEST_F(StartUp, AnEntryThatCannotBeTakenOutIsToldAndTheProgramDoesNotStart) {
+    writeBytes(file("boulix.ini"), "[jeux a positions fixes]\r\njeu0=fgame-0.gam\r\n");
+    std::filesystem::permissions(file("boulix.ini"), std::filesystem::perms::owner_read);
+    desktop.answerYes();
+    start("");
+    ASSERT_EQ(desktop.messages.size(), 2U);
+    EXPECT_EQ(desktop.messages[1], (ShownBox{"Permission refusée : " + file("boulix.ini"),
+                                             Icon::critical, "Boulix Erreur système N° 70"}));
+    EXPECT_FALSE(desktop.mainWindowShown);
+}
+
+struct StoppingBase {
+    const char *version;
+    int number;
+    const char *firstLine;
+};
+
+TEST_F(StartUp, ABaseThatStopsTheStartIsNamedWithItsVersionAndWhatToDo) {
+    const StoppingBase cases[] = {{"4", 5, "Appel de procédure ou argument incorrect"},
+                                  {"", 5, "Appel de procédure ou argument incorrect"},
+                                  {"x.1", 13, "Incompatibilité de type"}};
+    gAppInfo->init("", "", "", 2003);
+    for (const StoppingBase &expected : cases) {
+        fileHead head;
+        head.initialize(1);
+        head.version(expected.version);
+        writeBytes(file("tirages.dbl"), head.toRecord());
+        desktop.messages.clear();
+        start("");
+        const std::string versionLine = std::string("La version \"") + expected.version +
+                                        "\" du fichier tirages.dbl du répertoire " + folder() +
+                                        " est illisible.";
+        EXPECT_EQ(
+            desktop.messages,
+            (std::vector<ShownBox>{
+                {expected.firstLine + ("\r\n" + versionLine + "\r\n" + doesNotStart(0)),
+                 Icon::critical, "Boulix Erreur système N° " + std::to_string(expected.number)}}));
+        EXPECT_FALSE(desktop.mainWindowShown);
+    }
+}
+
+TEST_F(StartUp, ABaseWithImpossibleNumbersIsNamedWithThePlaceInIt) {
+    gAppInfo->init("", "", "", 2003);
+    fileHead head;
+    head.initialize(1);
+    std::string base = head.toRecord();
+    base.resize(2 * 128 + 8 + 2); // a draw of zeros, then the day and the draw of the day
+    appendInt16(base, 30000);
+    appendInt16(base, 30000);
+    base.resize(2 * 128 + 28);
+    writeBytes(file("tirages.dbl"), base);
+    start("");
+    EXPECT_EQ(desktop.messages,
+              (std::vector<ShownBox>{{"Dépassement de capacité\r\n" + doesNotStart(1),
+                                      Icon::critical, "Boulix Erreur système N° 6"}}));
+}
+
+TEST_F(StartUp, AFolderWithoutRightsAndWithoutABaseSaysWhatToDo) {
+    putDefaultPrizes();
+    std::filesystem::permissions(folder(), static_cast<std::filesystem::perms>(0555));
+    {
+        const testing_support::WithoutRights nobody;
+        start("");
+    }
+    std::filesystem::permissions(folder(), std::filesystem::perms::owner_all);
+    EXPECT_EQ(desktop.messages,
+              (std::vector<ShownBox>{
+                  {"Permission refusée : " + file("tirages.dbl") + "\r\nLe dossier " + folder() +
+                       " est protégé en écriture: copiez-le à un endroit où vous pouvez écrire, "
+                       "puis démarrez Boulix depuis cette copie.",
+                   Icon::critical, "Boulix Erreur système N° 70"}}));
+}
+
+TEST_F(StartUp, AnyDamageToTheBaseThatStopsTheStartIsToldWithTheNameOfItsFile) {
+    gAppInfo->init("", "", "", 2003);
+    fileHead head;
+    head.initialize(1);
+    std::string whole = head.toRecord();
+    for (int draw = 0; draw < 3; ++draw) {
+        whole.resize(whole.size() + 128 - whole.size() % 128);
+        appendDouble(whole, 37632 + draw);
+        for (const int value : {1, 1, 2, 3, 4, 5, 6, 7, 21, 28})
+            appendInt16(whole, static_cast<std::int16_t>(value));
+    }
+    putDefaultPrizes();
+    std::mt19937 random(17);
+    for (int round = 0; round < 150; ++round) {
+        std::string bytes = whole;
+        for (int k = 0; k < 3; ++k)
+            bytes[random() % bytes.size()] = static_cast<char>(random());
+        if (round % 3 == 0)
+            bytes.resize(random() % bytes.size());
+        writeBytes(file("tirages.dbl"), bytes);
+        desktop.messages.clear();
+        desktop.mainWindowShown = false;
+        resetGlobals();
+        start("");
+        if (desktop.mainWindowShown)
+            continue;
+        ASSERT_EQ(desktop.messages.size(), 1U);
+        ASSERT_NE(desktop.messages[0].text.find("tirages.dbl"), std::string::npos)
+            << desktop.messages[0].text;
+    }
+}
+
+TEST_F(StartUp, TheInstalledPrizeTableIsWhatTheProgramItselfWritesAndGreetsNobody) {
+    const std::string installed =
+        readBytes(testing_support::checkoutFolder() / "packaging" / "defrapp.rap");
+    gAppInfo->init("", "", "", 2003);
+    platform.day = dateOf({2026, 11, 21});
+    rapport().save(file("defrapp.rap"));
+    EXPECT_EQ(readBytes(file("defrapp.rap")), installed);
+    resetGlobals();
+    start("");
+    EXPECT_TRUE(desktop.messages.empty());
+    for (const std::string &amount : mainWindow->winnings.txtRapPrice)
+        EXPECT_EQ(amount, "0");
 }
 
 TEST_F(StartUp, ALogThatCannotBeOpenedIsAFailureOfTheWholeStart) {
