@@ -43,9 +43,9 @@ TEST_F(DrawExport, WritesOneLinePerDrawInCollectionOrder) {
     add(draws[2]);
     add(draws[0]);
     add(draws[3]);
-    EXPECT_EQ(exported(), headerLine + "18/01/2003;2;6;9;12;33;38;47;25\r\n"
-                                       "11/01/2003;1;2;3;5;7;11;13;17\r\n"
-                                       "22/01/2003;1;-1;0;100;4;5;6;7\r\n");
+    EXPECT_EQ(exported(), headerLine + "18-01-2003;2;6;9;12;33;38;47;25\r\n"
+                                       "11-01-2003;1;2;3;5;7;11;13;17\r\n"
+                                       "22-01-2003;1;-1;0;100;4;5;6;7\r\n");
 }
 
 TEST_F(DrawExport, UsesTheShortDateFormOfTheSystem) {
@@ -57,7 +57,7 @@ TEST_F(DrawExport, UsesTheShortDateFormOfTheSystem) {
 TEST_F(DrawExport, ReplacesAFileWithoutAQuestion) {
     writeBytes(file("base.txt"), std::string(5000, 'x'));
     add(draws[0]);
-    EXPECT_EQ(exported(), headerLine + "11/01/2003;1;2;3;5;7;11;13;17\r\n");
+    EXPECT_EQ(exported(), headerLine + "11-01-2003;1;2;3;5;7;11;13;17\r\n");
     EXPECT_TRUE(desktop.questions.empty());
 }
 
@@ -120,9 +120,9 @@ class DrawPrinting : public DrawsTest {
     testing_support::RecordingPrinters printers;
 };
 
-const std::string threeEntries = "0001) 11/01/2003 - (1) 02 03 05 07 11 13 (17) --- "
-                                 "0002) 15/01/2003 - (1) 01 04 22 30 41 49 (08) --- "
-                                 "0003) 18/01/2003 - (2) 06 09 12 33 38 47 (25)";
+const std::string threeEntries = "0001) 11-01-2003 - (1) 02 03 05 07 11 13 (17) --- "
+                                 "0002) 15-01-2003 - (1) 01 04 22 30 41 49 (08) --- "
+                                 "0003) 18-01-2003 - (2) 06 09 12 33 38 47 (25)";
 
 TEST_F(DrawPrinting, OfAnEmptyBaseIsTheBannerAndTheTitle) {
     EXPECT_EQ(printedLines(), report({}));
@@ -138,15 +138,15 @@ TEST_F(DrawPrinting, PutsAFourthDrawOnALineOfItsOwn) {
     for (const DrawOf &draw : draws)
         add(draw);
     EXPECT_EQ(printedLines(),
-              report({threeEntries, "0004) 22/01/2003 - (1) -01 00 100 04 05 06 (07)"}));
+              report({threeEntries, "0004) 22-01-2003 - (1) -01 00 100 04 05 06 (07)"}));
 }
 
 TEST_F(DrawPrinting, PutsTwoDrawsThatAreLeftOnOneLine) {
     for (std::size_t i = 0; i < 5; ++i)
         add(draws[i % 3]);
     EXPECT_EQ(printedLines(),
-              report({threeEntries, "0004) 11/01/2003 - (1) 02 03 05 07 11 13 (17) --- "
-                                    "0005) 15/01/2003 - (1) 01 04 22 30 41 49 (08)"}));
+              report({threeEntries, "0004) 11-01-2003 - (1) 02 03 05 07 11 13 (17) --- "
+                                    "0005) 15-01-2003 - (1) 01 04 22 30 41 49 (08)"}));
 }
 
 TEST_F(DrawPrinting, NumbersDrawsOnFourDigitsAndMore) {
@@ -154,7 +154,7 @@ TEST_F(DrawPrinting, NumbersDrawsOnFourDigitsAndMore) {
         add(draws[0]);
     const std::vector<std::string> lines = printedLines();
     EXPECT_EQ(lines[report({}).size() + 411].substr(0, 6), "1234) ");
-    EXPECT_EQ(lines.back(), "10000) 11/01/2003 - (1) 02 03 05 07 11 13 (17)");
+    EXPECT_EQ(lines.back(), "10000) 11-01-2003 - (1) 02 03 05 07 11 13 (17)");
 }
 
 TEST_F(DrawPrinting, SetsTheDrawsInAFontOfEightPoints) {

@@ -83,8 +83,8 @@ class StatReport : public StatsTest {
 
 const std::string fileDashes(60, '-');
 const std::string paperDashes(120, '-');
-const std::string range = "Analyse réalisée pour du tirage N° 1 (01/01/2001 - 1)  au tirage N° 4 "
-                          "(04/01/2001 - 2) ";
+const std::string range = "Analyse réalisée pour du tirage N° 1 (01-01-2001 - 1)  au tirage N° 4 "
+                          "(04-01-2001 - 2) ";
 
 TEST_F(StatReport, TheFileHasItsLinesInOrderWithCrLfAndWesternBytes) {
     computeAll(17, 0);

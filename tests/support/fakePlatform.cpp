@@ -2,7 +2,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "support/fakePlatform.h"
 
+#include <algorithm>
+
 namespace boulix::testing_support {
+
+std::string dashedDate(Date date) {
+    std::string text = longDate(date);
+    std::replace(text.begin(), text.end(), '/', '-');
+    return text;
+}
 
 void FakePlatform::scriptRandom(const std::vector<float> &values) {
     scripted_.insert(scripted_.end(), values.begin(), values.end());

@@ -13,6 +13,10 @@
 
 namespace boulix::testing_support {
 
+/// `date` as "dd-mm-yyyy": a short form that nobody can take for the form "dd/mm/yyyy" of the
+/// files.
+std::string dashedDate(Date date);
+
 /// A system that a test sets up: its day, its application folder, its command line, its chance.
 class FakePlatform : public Platform {
   public:
@@ -20,8 +24,8 @@ class FakePlatform : public Platform {
     Date day = dateOf({2026, 11, 15});
     /// The raw command line.
     std::string arguments;
-    /// The short form of a date, "dd/mm/yyyy" at first.
-    std::function<std::string(Date)> shortForm = longDate;
+    /// The short form of a date, "dd-mm-yyyy" at first.
+    std::function<std::string(Date)> shortForm = dashedDate;
     /// What the clock seeds the random source with.
     unsigned clockSeed = 1;
     /// How often the random source was seeded from the clock.

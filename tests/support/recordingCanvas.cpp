@@ -48,6 +48,7 @@ double Recording::textHeight() const {
 
 void Recording::add(Drawn item) {
     item.page = page;
+    item.color = color;
     drawn.push_back(std::move(item));
 }
 

@@ -10,8 +10,8 @@
 
 namespace boulix::testing_support {
 
-/// One text, line or box as it was drawn, with the page, pen and font of that moment. A text has
-/// its place in x1 and y1, a line or box has no font.
+/// One text, line or box as it was drawn, with the page, colour, pen and font of that moment. A
+/// text has its place in x1 and y1, a line or box has no font.
 struct Drawn {
     enum Kind { text, line, box };
     Kind kind = text;
@@ -24,6 +24,7 @@ struct Drawn {
     std::string fontName;
     double points = 0;
     int penWidth = 0;
+    Color color = black;
 };
 
 /// How a recording surface measures text: every character is `emWidth` times the font size wide,
@@ -40,6 +41,7 @@ struct Recording {
     TextMetrics metrics;
     int page = 1;
     int penWidth = 1;
+    Color color = black;
     std::string fontName;
     double points = 0;
 
@@ -57,7 +59,7 @@ class RecordingSurface : public Base {
   public:
     explicit RecordingSurface(Recording &recording) : recording_(recording) {}
 
-    void color(Color) override {}
+    void color(Color color) override { recording_.color = color; }
     void penWidth(int dots) override { recording_.penWidth = dots; }
     void font(const std::string &name, double points) override {
         recording_.fontName = name;

@@ -42,6 +42,7 @@ QRect windowsOnScreen() {
 Tour::Tour() {
     std::filesystem::remove(file("defrapp.rap")); // the evening begins with nothing
     platform.day = dateOf({2003, 11, 19});
+    platform.shortForm = longDate; // the player's system is a French one
     pdfPrinters_.printed = [this](const QString &fileName) { keepDocument(fileName); };
     setPrinterSystem(&pdfPrinters_);
     setPrintWindows(&printWindows_);

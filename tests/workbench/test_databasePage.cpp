@@ -96,7 +96,7 @@ TEST_F(DatabasePage, TheListHasNineColumnsWithTheNumbersCentred) {
 
 TEST_F(DatabasePage, ARowShowsTheDrawWithItsNumbersInStoredOrder) {
     startWith({draw(2, 2, sevenA)});
-    EXPECT_EQ(row(0), (std::vector<std::string>{"02/01/2003", "2", "31", "15", "33", "27", "36",
+    EXPECT_EQ(row(0), (std::vector<std::string>{"02-01-2003", "2", "31", "15", "33", "27", "36",
                                                 "48", "34"}));
 }
 
@@ -106,7 +106,7 @@ TEST_F(DatabasePage, AClickOnARowShowsTheDrawOnTheBoardAndClosesTheBoard) {
     EXPECT_EQ(markedNumbers(page.grdDB), sevenA);
     EXPECT_TRUE(page.grdDB.isComplementary(34));
     EXPECT_FALSE(page.grdDB.editable());
-    EXPECT_EQ(page.lblDBCombDesc, "Tirage n° 1 du 02/01/2003");
+    EXPECT_EQ(page.lblDBCombDesc, "Tirage n° 1 du 02-01-2003");
     EXPECT_FALSE(page.grdDB.click(10));
     EXPECT_EQ(markedNumbers(page.grdDB), sevenA);
 }
@@ -133,8 +133,8 @@ TEST_F(DatabasePage, AddPutsTheDrawAtTheEndAndShowsItOnTheBoard) {
     desktop.answerDate({dateOf({2003, 1, 4}), 2});
     page.clickButton(databasePage::enterDraw);
     ASSERT_EQ(page.lvwDBcomb.rowCount(), 2);
-    EXPECT_EQ(row(1)[0], "04/01/2003");
-    EXPECT_EQ(page.lblDBCombDesc, "Tirage n° 2 du 04/01/2003");
+    EXPECT_EQ(row(1)[0], "04-01-2003");
+    EXPECT_EQ(page.lblDBCombDesc, "Tirage n° 2 du 04-01-2003");
     EXPECT_EQ(page.getSelectedDraw(), 0);
     EXPECT_EQ(status(), "2 combinaisons dans la base de données");
 }
@@ -144,7 +144,7 @@ TEST_F(DatabasePage, RemoveTakesTheFirstSelectedRowAtOnceWithoutAQuestion) {
     selected = {2, 3};
     page.clickButton(databasePage::removeDraw);
     ASSERT_EQ(page.lvwDBcomb.rowCount(), 2);
-    EXPECT_EQ(row(1)[0], "04/01/2003");
+    EXPECT_EQ(row(1)[0], "04-01-2003");
     EXPECT_TRUE(desktop.questions.empty());
     EXPECT_EQ(status(), "2 combinaisons dans la base de données");
     EXPECT_TRUE(testing_support::fileExists(file("tirages.dbl")));
@@ -156,8 +156,8 @@ TEST_F(DatabasePage, ModifyChangesTheSelectedDrawAndSortsTheBase) {
     desktop.answerNumbers(NumberScript().clear().click({10, 11, 12, 13, 14, 15, 16}).ok());
     desktop.answerDate({dateOf({2003, 1, 20}), 1});
     page.clickButton(databasePage::modifyDraw);
-    EXPECT_EQ(row(0)[0], "03/01/2003");
-    EXPECT_EQ(row(1), (std::vector<std::string>{"20/01/2003", "1", "10", "11", "12", "13", "14",
+    EXPECT_EQ(row(0)[0], "03-01-2003");
+    EXPECT_EQ(row(1), (std::vector<std::string>{"20-01-2003", "1", "10", "11", "12", "13", "14",
                                                 "15", "16"}));
 }
 
@@ -174,7 +174,7 @@ TEST_F(DatabasePage, AnImportFillsTheListAndTheStatus) {
     importText("6;5;4;3;2;1;7;20030104;2\r\n1;2;3;4;5;6;8;20030104;1\r\n");
     EXPECT_EQ(page.lvwDBcomb.rowCount(), 2);
     EXPECT_EQ(row(0)[1], "1");
-    EXPECT_EQ(page.lblDBCombDesc, "Tirage n° 2 du 04/01/2003");
+    EXPECT_EQ(page.lblDBCombDesc, "Tirage n° 2 du 04-01-2003");
     EXPECT_EQ(status(), "2 combinaisons dans la base de données");
 }
 
@@ -201,8 +201,8 @@ TEST_F(DatabasePage, ModifyFillsListBoardLabelAndUpDownsAgain) {
     desktop.answerDate({dateOf({2003, 1, 1}), 2});
     page.clickButton(databasePage::modifyDraw);
     EXPECT_EQ(shown(), (std::vector<std::string>{"2 combinaisons dans la base de données",
-                                                 "Tirage n° 1 du 02/01/2003",
-                                                 "01/01/2003",
+                                                 "Tirage n° 1 du 02-01-2003",
+                                                 "01-01-2003",
                                                  "2",
                                                  "10",
                                                  "11",
@@ -211,7 +211,7 @@ TEST_F(DatabasePage, ModifyFillsListBoardLabelAndUpDownsAgain) {
                                                  "14",
                                                  "15",
                                                  "16", //
-                                                 "02/01/2003",
+                                                 "02-01-2003",
                                                  "1",
                                                  "31",
                                                  "15",

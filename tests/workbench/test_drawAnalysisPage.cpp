@@ -71,7 +71,7 @@ TEST_F(DrawAnalysisPage, StartsOnTheNewestDraw) {
     EXPECT_EQ(page.updnTirNbr.value(), 3);
     EXPECT_EQ(page.updnTirNbr.min(), 1);
     EXPECT_EQ(page.updnTirNbr.max(), 3);
-    EXPECT_EQ(page.lblTirInfo, "Tirage N° 1 du 03/01/2000");
+    EXPECT_EQ(page.lblTirInfo, "Tirage N° 1 du 03-01-2000");
     EXPECT_EQ(captions(), (Texts{"33", "09", "08", "03", "02", "01", "40"}));
     ASSERT_EQ(page.lvwTirStat.columns().size(), 2U);
     EXPECT_EQ(page.lvwTirStat.columns()[0].header, "Type de recherche");
@@ -83,6 +83,12 @@ TEST_F(DrawAnalysisPage, WithoutASelectedAnalysisTheLabelsAreWrittenAndTheListIs
     page.updnTirNbr.set(2);
     EXPECT_EQ(captions(), (Texts{"49", "01", "12", "03", "14", "05", "16"}));
     EXPECT_EQ(rows(), Texts());
+}
+
+TEST_F(DrawAnalysisPage, EveryNumberHasTwoDigitsTheComplementaryOneToo) {
+    startWithThreeDraws();
+    page.updnTirNbr.set(1);
+    EXPECT_EQ(captions(), (Texts{"07", "01", "02", "03", "04", "05", "06"}));
 }
 
 TEST_F(DrawAnalysisPage, EachStepOfTheControlShowsItsDrawAndItsAnalyses) {
@@ -132,11 +138,13 @@ TEST_F(DrawAnalysisPage, AClickOnALabelTogglesItsNumberAndRecoloursItButNotTheCo
     startWithThreeDraws();
     board.click(20);
     const std::string status = mainWindow->StatusBar[1];
+    EXPECT_EQ(status, "1 numéro sélectioné");
     page.clickNumber(0);
     page.clickNumber(6);
     EXPECT_EQ(markedNumbers(board), (Numbers{20, 33, 40}));
     EXPECT_EQ(ground(0), paleGreen);
     EXPECT_EQ(ground(6), paleOchre);
+    EXPECT_EQ(mainWindow->StatusBar[1], status) << "three numbers are marked now";
     page.clickNumber(0);
     page.clickNumber(6);
     EXPECT_EQ(markedNumbers(board), (Numbers{20}));
@@ -181,7 +189,7 @@ TEST_F(DrawAnalysisPage, AChangedDrawIsShownAnew) {
     gDbCombs->Item(3).id(2);
     mainWindow->frmUpdateDBList();
     EXPECT_EQ(captions().at(1), "10");
-    EXPECT_EQ(page.lblTirInfo, "Tirage N° 2 du 03/01/2000");
+    EXPECT_EQ(page.lblTirInfo, "Tirage N° 2 du 03-01-2000");
 }
 
 TEST_F(DrawAnalysisPage, ATypedPositionGoesToTheControlWhereItIsOne) {

@@ -109,7 +109,7 @@ TEST_F(MainWindow, TheRefillShowsTheLastDrawOnTheBoardThoughNoRowIsSelected) {
     addDraw(3, 2);
     mainWindow->load();
     EXPECT_EQ(mainWindow->database.lvwDBcomb.rowCount(), 2);
-    EXPECT_EQ(mainWindow->database.lblDBCombDesc, "Tirage n° 2 du 03/01/2003");
+    EXPECT_EQ(mainWindow->database.lblDBCombDesc, "Tirage n° 2 du 03-01-2003");
     EXPECT_EQ(mainWindow->database.getSelectedDraw(), 0);
 }
 

@@ -61,7 +61,7 @@ TEST_F(FrmTestProno, OpensOnTheLastDraw) {
     EXPECT_STREQ(frmTestProno::caption, "Test de Pronostiques");
     EXPECT_EQ(window.txtNumTir(), "10");
     EXPECT_EQ(window.position(), 10);
-    EXPECT_EQ(window.lblDescTir(), "Tirage N° 1 du 10/01/2000");
+    EXPECT_EQ(window.lblDescTir(), "Tirage N° 1 du 10-01-2000");
     ASSERT_EQ(window.lvWResult.columns().size(), 2U);
     EXPECT_EQ(window.lvWResult.columns()[0].header, "Tirage");
     EXPECT_EQ(window.lvWResult.columns()[1].header, "Nombre de numéros");
@@ -72,17 +72,17 @@ TEST_F(FrmTestProno, AStepUpwardGoesToTheNextDrawAndWrapsToTheFirst) {
     frmTestProno window;
     window.stepUp();
     EXPECT_EQ(window.txtNumTir(), "1");
-    EXPECT_EQ(window.lblDescTir(), "Tirage N° 1 du & 01/01/2000");
+    EXPECT_EQ(window.lblDescTir(), "Tirage N° 1 du & 01-01-2000");
     window.stepUp();
     EXPECT_EQ(window.txtNumTir(), "2");
-    EXPECT_EQ(window.lblDescTir(), "Tirage N° 2 du & 02/01/2000");
+    EXPECT_EQ(window.lblDescTir(), "Tirage N° 2 du & 02-01-2000");
 }
 
 TEST_F(FrmTestProno, AStepDownwardGoesToTheDrawBeforeAndWrapsToTheLast) {
     frmTestProno window;
     window.stepDown();
     EXPECT_EQ(window.txtNumTir(), "9");
-    EXPECT_EQ(window.lblDescTir(), "Tirage N° 1 du 09/01/2000");
+    EXPECT_EQ(window.lblDescTir(), "Tirage N° 1 du 09-01-2000");
     window.editNumTir("1");
     window.stepDown();
     EXPECT_EQ(window.txtNumTir(), "10");
@@ -93,12 +93,12 @@ TEST_F(FrmTestProno, ATypedPositionIsTakenWhenItExists) {
     frmTestProno window;
     window.editNumTir("2");
     EXPECT_EQ(window.position(), 2);
-    EXPECT_EQ(window.lblDescTir(), "Tirage N° 2 du 02/01/2000");
+    EXPECT_EQ(window.lblDescTir(), "Tirage N° 2 du 02-01-2000");
     for (const char *text : {"0", "11", "-3", "", "deux", "99999999999999999999"}) {
         window.editNumTir(text);
         EXPECT_EQ(window.txtNumTir(), text);
         EXPECT_EQ(window.position(), 2) << text;
-        EXPECT_EQ(window.lblDescTir(), "Tirage N° 2 du 02/01/2000") << text;
+        EXPECT_EQ(window.lblDescTir(), "Tirage N° 2 du 02-01-2000") << text;
     }
 }
 
@@ -106,7 +106,7 @@ TEST_F(FrmTestProno, LeavingTheBoxWritesTheSignIntoTheDescription) {
     frmTestProno window;
     window.editNumTir("2");
     window.leaveNumTir();
-    EXPECT_EQ(window.lblDescTir(), "Tirage N° 2 du & 02/01/2000");
+    EXPECT_EQ(window.lblDescTir(), "Tirage N° 2 du & 02-01-2000");
 }
 
 TEST_F(FrmTestProno, OnlyAnUpwardStepAndTheCountMakeTheNextTestComputeAnew) {
@@ -130,10 +130,10 @@ TEST_F(FrmTestProno, WithMoreDrawsBeforeThanThereAreTheLinesBeginAtDrawOne) {
     fill(window, "3", "10", "1", "49");
     window.clickCompute();
     EXPECT_EQ(lines(window), (std::vector<std::string>{
-                                 "Tirage N° 0001 du 01/01/2000 - 1",
-                                 "Tirage N° 0002 du 02/01/2000 - 2",
-                                 "Tirage N° 0003 du 03/01/2000 - 1",
-                                 "Tirage N° 0004 du 04/01/2000 - 1",
+                                 "Tirage N° 0001 du 01-01-2000 - 1",
+                                 "Tirage N° 0002 du 02-01-2000 - 2",
+                                 "Tirage N° 0003 du 03-01-2000 - 1",
+                                 "Tirage N° 0004 du 04-01-2000 - 1",
                              }));
     EXPECT_EQ(lines(window, 1), (std::vector<std::string>{"7", "7", "7", "7"}));
 }
@@ -142,8 +142,8 @@ TEST_F(FrmTestProno, WithTheLastDrawAsTestDrawTheRunEndsAtIt) {
     frmTestProno window;
     fill(window, "10", "1", "5", "49");
     window.clickCompute();
-    EXPECT_EQ(lines(window), (std::vector<std::string>{"Tirage N° 0009 du 09/01/2000 - 1",
-                                                       "Tirage N° 0010 du 10/01/2000 - 1"}));
+    EXPECT_EQ(lines(window), (std::vector<std::string>{"Tirage N° 0009 du 09-01-2000 - 1",
+                                                       "Tirage N° 0010 du 10-01-2000 - 1"}));
 }
 
 TEST_F(FrmTestProno, ANewTestReplacesTheLines) {
@@ -188,9 +188,9 @@ TEST_F(FrmTestProno, ARefusedRuleIsReportedAndTheEarlierResultListed) {
     window.clickCompute();
     ASSERT_EQ(desktop.messages.size(), 1U);
     EXPECT_EQ(desktop.messages[0].title, "boulix: Erreur N° 4503");
-    EXPECT_EQ(lines(window), (std::vector<std::string>{"Tirage N° 0008 du 08/01/2000 - 1",
-                                                       "Tirage N° 0009 du 09/01/2000 - 1",
-                                                       "Tirage N° 0010 du 10/01/2000 - 1"}));
+    EXPECT_EQ(lines(window), (std::vector<std::string>{"Tirage N° 0008 du 08-01-2000 - 1",
+                                                       "Tirage N° 0009 du 09-01-2000 - 1",
+                                                       "Tirage N° 0010 du 10-01-2000 - 1"}));
     EXPECT_EQ(lines(window, 1), (std::vector<std::string>{"7", "7", "7"}));
 }
 
@@ -210,9 +210,9 @@ TEST_F(FrmTestProno, NegativeDrawsBeforeOrAfterGiveAShortOrEmptyList) {
     frmTestProno window;
     fill(window, "5", "-2", "4", "49");
     window.clickCompute();
-    EXPECT_EQ(lines(window), (std::vector<std::string>{"Tirage N° 0007 du 07/01/2000 - 1",
-                                                       "Tirage N° 0008 du 08/01/2000 - 1",
-                                                       "Tirage N° 0009 du 09/01/2000 - 1"}));
+    EXPECT_EQ(lines(window), (std::vector<std::string>{"Tirage N° 0007 du 07-01-2000 - 1",
+                                                       "Tirage N° 0008 du 08-01-2000 - 1",
+                                                       "Tirage N° 0009 du 09-01-2000 - 1"}));
     fill(window, "5", "-9", "4", "49");
     window.clickCompute();
     EXPECT_EQ(window.lvWResult.rowCount(), 0);
@@ -238,9 +238,9 @@ TEST_F(FrmTestProno, AHeaderClickSortsTheLinesAsText) {
     const std::vector<std::string> sorted = lines(window, 1);
     EXPECT_TRUE(std::is_sorted(sorted.begin(), sorted.end()));
     window.clickHeader(0);
-    EXPECT_EQ(lines(window)[0], "Tirage N° 0001 du 01/01/2000 - 1");
+    EXPECT_EQ(lines(window)[0], "Tirage N° 0001 du 01-01-2000 - 1");
     window.clickHeader(0);
-    EXPECT_EQ(lines(window)[0], "Tirage N° 0010 du 10/01/2000 - 1");
+    EXPECT_EQ(lines(window)[0], "Tirage N° 0010 du 10-01-2000 - 1");
 }
 
 TEST_F(FrmTestProno, OnAnEmptyBaseThereIsNoDrawToTest) {

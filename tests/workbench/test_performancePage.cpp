@@ -27,9 +27,9 @@ TEST_F(PerformancePage, ShowsTheDatesOfTheWinsOfARank) {
         ++shown;
         EXPECT_STREQ(frmWinDate::caption, "Date des gains");
         ASSERT_EQ(window.lvwWinDate.rowCount(), 2);
-        EXPECT_EQ(row(window, 0), (std::vector<std::string>{"01/01/2000", "1", "1", "2", "3", "4",
+        EXPECT_EQ(row(window, 0), (std::vector<std::string>{"01-01-2000", "1", "1", "2", "3", "4",
                                                             "5", "6", "7", "2"}));
-        EXPECT_EQ(row(window, 1), (std::vector<std::string>{"03/01/2000", "1", "1", "2", "3", "44",
+        EXPECT_EQ(row(window, 1), (std::vector<std::string>{"03-01-2000", "1", "1", "2", "3", "44",
                                                             "45", "46", "47", "2"}));
     };
     page.clickPerfDate(4);

@@ -162,7 +162,7 @@ TEST_F(StatisticsPage, ARangeSetBeforeDrawsWereRemovedIsBroughtBackIntoTheBase) 
     mainWindow->frmUpdateDBList();
     EXPECT_EQ(page.txtStatStart, "1");
     EXPECT_EQ(page.txtStatEnd, "5");
-    EXPECT_EQ(page.lblStatEndDate, "05/01/2000 (1)");
+    EXPECT_EQ(page.lblStatEndDate, "05-01-2000 (1)");
     for (std::int16_t type = 1; type <= 17; ++type)
         compute(type, numbersFor(type));
     EXPECT_TRUE(desktop.messages.empty());

@@ -30,8 +30,8 @@ TEST_F(StatisticsPage, StartsWithTheFirstTypeWithoutComplementaryAndTheWholeBase
     EXPECT_EQ(page.updStatEnd.value(), 4);
     EXPECT_EQ(page.txtStatStart, "1");
     EXPECT_EQ(page.txtStatEnd, "4");
-    EXPECT_EQ(page.lblStatStartDate, "01/01/2000 (1)");
-    EXPECT_EQ(page.lblStatEndDate, "04/01/2000 (1)");
+    EXPECT_EQ(page.lblStatStartDate, "01-01-2000 (1)");
+    EXPECT_EQ(page.lblStatEndDate, "04-01-2000 (1)");
     EXPECT_TRUE(page.frameStatsRangeEnabled);
     EXPECT_TRUE(page.graphButtonEnabled);
     EXPECT_EQ(page.lvwStatsResult.rowCount(), 0);
@@ -228,6 +228,32 @@ TEST_F(StatisticsPage, RowsOfPartnersGiveAllTheirNumbers) {
     EXPECT_EQ(board(), (Numbers{2, 1, 3, 4}));
 }
 
+TEST_F(StatisticsPage, TheFrequencyOfARowIsNoNumber) {
+    startWithFourDraws();
+    const Numbers chosen = {21, 22, 23, 24};
+    for (std::int16_t type = 2; type <= 5; ++type) {
+        const auto partners = static_cast<std::size_t>(type - 1);
+        compute(type, {chosen.begin(), chosen.begin() + type - 1});
+        ASSERT_EQ(rows().front().substr(rows().front().size() - 3), " 01") << "it came out once";
+        clickRows({1});
+        Numbers expected = {21, 22, 23, 24, 25};
+        expected.resize(partners + 1);
+        EXPECT_EQ(board(), expected) << type;
+        page.clickButton(statisticsPage::erase);
+    }
+}
+
+TEST_F(StatisticsPage, ARowOfEveryTypeWithOneNumberGivesThatNumberAlone) {
+    startWithFourDraws();
+    for (const std::int16_t type : Numbers{1, 7, 8, 9, 10}) {
+        compute(type);
+        ASSERT_EQ(rows().at(4).substr(0, 3), "05 ") << type;
+        clickRows({5, 49});
+        EXPECT_EQ(board(), (Numbers{5, 49})) << type;
+        page.clickButton(statisticsPage::erase);
+    }
+}
+
 TEST_F(StatisticsPage, RowsOfTripletsGiveTheirThreeNumbers) {
     startWithFourDraws();
     compute(12, {49});
@@ -310,8 +336,8 @@ TEST_F(StatisticsPage, ThePrintedReportStandsUnderTheLabelsOfTheMoment) {
     const Texts lines = printers.onlyDocument().lines();
     EXPECT_EQ(lines.at(5),
               "Nombre maximal de tirages consécutifs sans sortir (Sans complémentaire)");
-    EXPECT_EQ(lines.at(10), "Analyse réalisée pour du tirage N° 2 (02/01/2000 - 1)  au tirage N° 4 "
-                            "(04/01/2000 - 1) ");
+    EXPECT_EQ(lines.at(10), "Analyse réalisée pour du tirage N° 2 (02-01-2000 - 1)  au tirage N° 4 "
+                            "(04-01-2000 - 1) ");
     EXPECT_EQ(lines.at(13), "01     03");
 }
 

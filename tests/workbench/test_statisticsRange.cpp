@@ -34,8 +34,8 @@ TEST_F(StatisticsPage, StartAndEndOfTheRangeMeetButNeverCross) {
     page.updStatEnd.step(-1);
     EXPECT_EQ(page.updStatStart.value(), 4);
     EXPECT_EQ(page.updStatEnd.value(), 4);
-    EXPECT_EQ(page.lblStatStartDate, "04/01/2000 (1)");
-    EXPECT_EQ(page.lblStatEndDate, "04/01/2000 (1)");
+    EXPECT_EQ(page.lblStatStartDate, "04-01-2000 (1)");
+    EXPECT_EQ(page.lblStatEndDate, "04-01-2000 (1)");
     const std::vector<Numbers> chosen = {
         {}, {1}, {1, 2}, {1, 2, 3}, {1, 2, 3, 4}, {},        {},           {}, {},
         {}, {},  {1},    {1},       {1, 2},       {1, 2, 3}, {1, 2, 3, 4}, {}};
@@ -49,8 +49,8 @@ TEST_F(StatisticsPage, BothDatesAreRewrittenWhicheverControlChanged) {
     gDbCombs->Item(1).id(2);
     gDbCombs->Item(9).id(2);
     page.updStatEnd.set(9);
-    EXPECT_EQ(page.lblStatStartDate, "01/01/2000 (2)");
-    EXPECT_EQ(page.lblStatEndDate, "09/01/2000 (2)");
+    EXPECT_EQ(page.lblStatStartDate, "01-01-2000 (2)");
+    EXPECT_EQ(page.lblStatEndDate, "09-01-2000 (2)");
     EXPECT_EQ(page.txtStatEnd, "9");
 }
 

@@ -17,7 +17,7 @@ TEST_F(WinningsPage, BeginsWithTheLastDrawAndWhatTheGameWinsInIt) {
     EXPECT_EQ(page.updVerifComb.max(), 3);
     EXPECT_EQ(page.updVerifComb.value(), 3);
     EXPECT_EQ(page.txtVerifComb, "3");
-    EXPECT_EQ(page.lblVerifComb, "Tirage n° 1 du 03/01/2000");
+    EXPECT_EQ(page.lblVerifComb, "Tirage n° 1 du 03-01-2000");
     EXPECT_EQ(page.lblVerifNum, (std::array<std::string, 6>{"1", "2", "3", "44", "45", "46"}));
     EXPECT_EQ(page.lblVerifCompl, "47");
     EXPECT_EQ(page.lblVerComb, zerosBut(5, "1"));
@@ -27,11 +27,11 @@ TEST_F(WinningsPage, BeginsWithTheLastDrawAndWhatTheGameWinsInIt) {
 
 TEST_F(WinningsPage, AStepShowsAnotherDraw) {
     page.updVerifComb.step(-1);
-    EXPECT_EQ(page.lblVerifComb, "Tirage n° 2 du 02/01/2000");
+    EXPECT_EQ(page.lblVerifComb, "Tirage n° 2 du 02-01-2000");
     EXPECT_EQ(page.lblVerComb, zeros());
     EXPECT_EQ(page.lblVerWinTot, "0");
     page.updVerifComb.step(-1);
-    EXPECT_EQ(page.lblVerifComb, "Tirage n° 1 du 01/01/2000");
+    EXPECT_EQ(page.lblVerifComb, "Tirage n° 1 du 01-01-2000");
     EXPECT_EQ(page.lblVerifCompl, "7");
     EXPECT_EQ(page.lblVerComb, zerosBut(5, "1"));
 }
@@ -61,7 +61,7 @@ TEST_F(WinningsPage, OnAnEmptyBaseTheChangeRoutineDoesNothing) {
     EXPECT_EQ(page.updVerifComb.max(), 3); // the range stays
     page.showVerification();
     page.leaveVerifComb("1");
-    EXPECT_EQ(page.lblVerifComb, "Tirage n° 1 du 03/01/2000");
+    EXPECT_EQ(page.lblVerifComb, "Tirage n° 1 du 03-01-2000");
     EXPECT_EQ(page.lblVerComb, zerosBut(5, "1"));
     EXPECT_EQ(desktop.messages.size(), 0U);
 }
@@ -70,7 +70,7 @@ TEST_F(WinningsPage, ANewBaseShowsItsLastDraw) {
     addDraw({11, 12, 13, 24, 25, 26, 27});
     page.followBase();
     EXPECT_EQ(page.updVerifComb.value(), 4);
-    EXPECT_EQ(page.lblVerifComb, "Tirage n° 1 du 04/01/2000");
+    EXPECT_EQ(page.lblVerifComb, "Tirage n° 1 du 04-01-2000");
     EXPECT_EQ(page.lblVerComb, zerosBut(5, "1"));
     gDbCombs->Item(4).comb(lotoCombOf({41, 42, 43, 44, 45, 46, 47})); // as after a change of it
     page.followBase();
@@ -144,13 +144,13 @@ TEST_F(WinningsPage, OnThePerformanceTabAnotherDrawBlanksTheResults) {
     page.updVerifComb.step(-1);
     EXPECT_EQ(page.lblVerComb, Texts{});
     EXPECT_EQ(page.lblVerPrice, Texts{});
-    EXPECT_EQ(page.lblVerifComb, "Tirage n° 2 du 02/01/2000");
+    EXPECT_EQ(page.lblVerifComb, "Tirage n° 2 du 02-01-2000");
 }
 
 TEST_F(WinningsPage, OnTheReportTabAnotherDrawLeavesTheResults) {
     page.clickSubTab(winningsPage::report);
     page.updVerifComb.step(-1);
-    EXPECT_EQ(page.lblVerifComb, "Tirage n° 2 du 02/01/2000");
+    EXPECT_EQ(page.lblVerifComb, "Tirage n° 2 du 02-01-2000");
     EXPECT_EQ(page.lblVerComb, zerosBut(5, "1"));
 }
 
@@ -166,7 +166,7 @@ TEST_F(WinningsPage, TheWindowOpensWithThePrizesAndTheLastDraw) {
     const winningsPage &shown = mainWindow->winnings;
     EXPECT_EQ(shown.txtRapPrice[4], "4.5");
     EXPECT_EQ(shown.lblVerWinTitle[1], "1 numéro + complémentaire");
-    EXPECT_EQ(shown.lblVerifComb, "Tirage n° 1 du 03/01/2000");
+    EXPECT_EQ(shown.lblVerifComb, "Tirage n° 1 du 03-01-2000");
     EXPECT_FALSE(shown.cmdPerfDateEnabled());
 }
 
@@ -200,7 +200,7 @@ TEST_F(WinningsPage, AnImportOrDeletionMovesTheVerificationToTheNewLastDraw) {
     gDbCombs->Remove(3);
     mainWindow->frmUpdateDBList();
     EXPECT_EQ(mainWindow->winnings.updVerifComb.max(), 2);
-    EXPECT_EQ(mainWindow->winnings.lblVerifComb, "Tirage n° 2 du 02/01/2000");
+    EXPECT_EQ(mainWindow->winnings.lblVerifComb, "Tirage n° 2 du 02-01-2000");
 }
 
 } // namespace

@@ -105,11 +105,11 @@ TEST_F(DatabaseTabTest, TheListHasTheColumnsOfADraw) {
 
 TEST_F(DatabaseTabTest, AnImportFillsTheListAndShowsTheLastDrawUnselected) {
     importThreeDraws();
-    EXPECT_EQ(rowText(1), "03/01/2001 1 13 10 24 36 35 1 2");
-    EXPECT_EQ(rowText(2), "03/01/2001 2 7 30 35 22 4 12 48");
-    EXPECT_EQ(rowText(3), "06/01/2001 1 19 36 27 25 38 30 31");
+    EXPECT_EQ(rowText(1), "03-01-2001 1 13 10 24 36 35 1 2");
+    EXPECT_EQ(rowText(2), "03-01-2001 2 7 30 35 22 4 12 48");
+    EXPECT_EQ(rowText(3), "06-01-2001 1 19 36 27 25 38 30 31");
     EXPECT_EQ(label("StatusBar_1"), "3 combinaisons dans la base de données");
-    EXPECT_EQ(label("lblDBCombDesc"), "Tirage n° 1 du 06/01/2001");
+    EXPECT_EQ(label("lblDBCombDesc"), "Tirage n° 1 du 06-01-2001");
     EXPECT_TRUE(mainWindow->database.grdDB.isSelected(19));
     EXPECT_TRUE(mainWindow->database.grdDB.isComplementary(31));
     EXPECT_EQ(list().selectedRows(), std::vector<std::int64_t>{});
@@ -127,11 +127,11 @@ TEST_F(DatabaseTabTest, ACancelledImportChangesNothing) {
 TEST_F(DatabaseTabTest, AClickedRowIsShownOnTheBoard) {
     importThreeDraws();
     clickRow(2);
-    EXPECT_EQ(label("lblDBCombDesc"), "Tirage n° 2 du 03/01/2001");
+    EXPECT_EQ(label("lblDBCombDesc"), "Tirage n° 2 du 03-01-2001");
     EXPECT_TRUE(mainWindow->database.grdDB.isComplementary(48));
     EXPECT_EQ(mainWindow->database.getSelectedDraw(), 2);
     QTest::keyClick(&list(), Qt::Key_Up);
-    EXPECT_EQ(label("lblDBCombDesc"), "Tirage n° 1 du 03/01/2001");
+    EXPECT_EQ(label("lblDBCombDesc"), "Tirage n° 1 du 03-01-2001");
     EXPECT_EQ(mainWindow->database.getSelectedDraw(), 1);
 }
 
@@ -141,7 +141,7 @@ TEST_F(DatabaseTabTest, ARowMarkedByTheRightButtonIsShownOnTheBoard) {
     QTest::mouseClick(list().viewport(), Qt::RightButton, {},
                       list().visualRect(list().model()->index(1, 0)).center());
     EXPECT_EQ(mainWindow->database.getSelectedDraw(), 2);
-    EXPECT_EQ(label("lblDBCombDesc"), "Tirage n° 2 du 03/01/2001");
+    EXPECT_EQ(label("lblDBCombDesc"), "Tirage n° 2 du 03-01-2001");
     EXPECT_TRUE(mainWindow->database.grdDB.isComplementary(48));
 }
 
@@ -177,8 +177,8 @@ TEST_F(DatabaseTabTest, ADrawIsAddedThroughTheTwoDialogs) {
             click(control<QPushButton>(dialog, "cmdOK"));
         });
     press(databasePage::enterDraw);
-    EXPECT_EQ(rowText(4), "19/11/2003 2 6 12 18 24 30 36 42");
-    EXPECT_EQ(label("lblDBCombDesc"), "Tirage n° 2 du 19/11/2003");
+    EXPECT_EQ(rowText(4), "19-11-2003 2 6 12 18 24 30 36 42");
+    EXPECT_EQ(label("lblDBCombDesc"), "Tirage n° 2 du 19-11-2003");
     EXPECT_EQ(list().selectedRows(), std::vector<std::int64_t>{});
     EXPECT_EQ(label("StatusBar_1"), "4 combinaisons dans la base de données");
 }
@@ -191,7 +191,7 @@ TEST_F(DatabaseTabTest, TheSelectedDrawIsChanged) {
         click(control<QPushButton>(dialog, "cmdOK"));
     });
     press(databasePage::modifyDraw);
-    EXPECT_EQ(rowText(1), "30/12/2000 1 19 36 27 25 38 30 31");
+    EXPECT_EQ(rowText(1), "30-12-2000 1 19 36 27 25 38 30 31");
     EXPECT_EQ(list().model()->rowCount(), 3);
 }
 
@@ -206,7 +206,7 @@ TEST_F(DatabaseTabTest, TheSelectedDrawIsDeletedByButtonAndByKey) {
     clickRow(1);
     QTest::keyClick(&list(), Qt::Key_Delete);
     EXPECT_EQ(gDbCombs->Count(), 1);
-    EXPECT_EQ(rowText(1), "06/01/2001 1 19 36 27 25 38 30 31");
+    EXPECT_EQ(rowText(1), "06-01-2001 1 19 36 27 25 38 30 31");
 }
 
 TEST_F(DatabaseTabTest, WithoutASelectedRowNothingIsChangedOrDeleted) {

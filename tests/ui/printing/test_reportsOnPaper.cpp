@@ -137,10 +137,10 @@ TEST_F(ReportOnPaperTest, FourDrawsOfTheBaseMakeOneFullLineAndOneEntry) {
     const Lines texts = textsOf(pages);
     ASSERT_EQ(texts.size(), 6U);
     EXPECT_EQ(texts[3], "Base de données imprimée le 15/11/2026");
-    EXPECT_EQ(texts[4], "0001) 11/01/2003 - (1) 08 15 22 29 36 43 (01) --- "
-                        "0002) 12/01/2003 - (1) 09 16 23 30 37 44 (02) --- "
-                        "0003) 13/01/2003 - (1) 10 17 24 31 38 45 (03)");
-    EXPECT_EQ(texts[5], "0004) 14/01/2003 - (1) 11 18 25 32 39 46 (04)");
+    EXPECT_EQ(texts[4], "0001) 11-01-2003 - (1) 08 15 22 29 36 43 (01) --- "
+                        "0002) 12-01-2003 - (1) 09 16 23 30 37 44 (02) --- "
+                        "0003) 13-01-2003 - (1) 10 17 24 31 38 45 (03)");
+    EXPECT_EQ(texts[5], "0004) 14-01-2003 - (1) 11 18 25 32 39 46 (04)");
     EXPECT_NEAR(pages.lines()[3].points, 10, 0.2);
     EXPECT_NEAR(pages.lines()[4].points, 8, 0.2);
     for (const PrintedWord &word : pages.words())
@@ -198,7 +198,7 @@ TEST_F(ReportOnPaperTest, TheWholeHistoryOfTheOperatorComesOutDrawByDraw) {
         const dbComb &draw = gDbCombs->Item(position);
         const bool first = position % 3 == 1;
         std::string &line = first ? expected.emplace_back() : expected.back();
-        line += (first ? "" : " --- ") + zeroPadded(position, 4) + ") " + longDate(draw.day()) +
+        line += (first ? "" : " --- ") + zeroPadded(position, 4) + ") " + shortDate(draw.day()) +
                 " - (" + std::to_string(draw.id()) + ") ";
         for (int i = 1; i <= lotoComb::size; ++i)
             line += zeroPadded(draw.comb().num(i), 2) + " ";

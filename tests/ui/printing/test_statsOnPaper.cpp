@@ -101,7 +101,7 @@ TEST_F(StatsOnPaperTest, AReportStandsOnBothPrintersAsItIsTold) {
         "tirages sélectionnée pour le numéro sélectionné (Ce calcul ne tient pas compte du numéro "
         "complémentaire)",
         dashes,
-        "Analyse réalisée pour du tirage N° 1 (01/01/2000 - 1)  au tirage N° 4 (04/01/2000 - 1) ",
+        "Analyse réalisée pour du tirage N° 1 (01-01-2000 - 1)  au tirage N° 4 (04-01-2000 - 1) ",
         dashes,
         "Période  Nombre d'absences",
         "1        2",

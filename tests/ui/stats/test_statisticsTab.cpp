@@ -169,7 +169,7 @@ TEST_F(StatisticsTabTest, TypedRangesAreBroughtBetweenTheLimitsAndLettersAreUndo
     EXPECT_EQ(start.text().toStdString(), "12");
     type(start, "abc");
     EXPECT_EQ(start.text().toStdString(), "12");
-    EXPECT_EQ(label("lblStatStartDate"), "12/01/2001 (1)");
+    EXPECT_EQ(label("lblStatStartDate"), "12-01-2001 (1)");
     QTest::keyClick(&start, Qt::Key_Down);
     EXPECT_EQ(start.text().toStdString(), "11");
 }
@@ -250,7 +250,7 @@ class DrawAnalysisTabTest : public StatisticsTabTest {
 };
 
 TEST_F(DrawAnalysisTabTest, TheNewestDrawStandsThereAndNoAnalysisIsSelected) {
-    EXPECT_EQ(label("lblTirInfo"), "Tirage N° 1 du 20/01/2001");
+    EXPECT_EQ(label("lblTirInfo"), "Tirage N° 1 du 20-01-2001");
     EXPECT_EQ(control<NumberBall>(window, "lblNumTir_1").text().toStdString(), "10");
     EXPECT_EQ(answers().model()->rowCount(), 0);
 }
@@ -276,11 +276,11 @@ TEST_F(DrawAnalysisTabTest, AClickOnABallMarksItsNumberOnTheBoardAndNotTheStatus
 TEST_F(DrawAnalysisTabTest, TheArrowsAndTheBoxMoveFromDrawToDraw) {
     auto &box = control<QLineEdit>(window, "txtTirNbr");
     QTest::keyClick(&box, Qt::Key_Down);
-    EXPECT_EQ(label("lblTirInfo"), "Tirage N° 1 du 19/01/2001");
+    EXPECT_EQ(label("lblTirInfo"), "Tirage N° 1 du 19-01-2001");
     box.selectAll();
     QTest::keyClicks(&box, QStringLiteral("3"));
     QTest::keyClick(&box, Qt::Key_Return);
-    EXPECT_EQ(label("lblTirInfo"), "Tirage N° 1 du 03/01/2001");
+    EXPECT_EQ(label("lblTirInfo"), "Tirage N° 1 du 03-01-2001");
     box.selectAll();
     QTest::keyClicks(&box, QStringLiteral("xyz"));
     QTest::keyClick(&box, Qt::Key_Return);

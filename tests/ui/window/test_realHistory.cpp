@@ -28,9 +28,11 @@ using testing_support::writeBytes;
 constexpr std::size_t slotBytes = 128;
 constexpr std::size_t lastSlotBytes = 28; // a file ends with the last field of its last draw
 
-/// The program in a real window, with a window manager around it.
+/// The program in a real window, with a window manager around it, on a French system.
 class RealWindowTest : public ScreenTest {
   protected:
+    RealWindowTest() { platform.shortForm = longDate; }
+
     void import(const std::string &fullName) {
         robot.chooseFile(fullName);
         pressImport();

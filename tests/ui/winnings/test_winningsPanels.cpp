@@ -62,7 +62,7 @@ TEST_F(WinningsPanelsTest, EachDrawIsVerifiedByItsPosition) {
     goToSide(winningsPage::verification);
     EXPECT_EQ(control<QLineEdit>(window, "txtVerifComb").text().toStdString(), "3");
     EXPECT_EQ(label("lblVerComb_2"), "5") << "grids with both the 1 and the 2";
-    EXPECT_EQ(label("lblVerifComb"), "Tirage n° 1 du 03/01/2000");
+    EXPECT_EQ(label("lblVerifComb"), "Tirage n° 1 du 03-01-2000");
     click(*control<QWidget>(window, "updVerifComb").findChildren<QToolButton *>().back());
     EXPECT_EQ(control<QLineEdit>(window, "txtVerifComb").text().toStdString(), "2");
     EXPECT_EQ(label("lblVerComb_2"), "0");
@@ -89,7 +89,7 @@ TEST_F(WinningsPanelsTest, TheBaseIsCheckedAndTheDatesOfTheWinsAreListed) {
         EXPECT_EQ(dialog.windowTitle().toStdString(), "Date des gains");
         const auto &wins = control<ReportView>(dialog, "lvwWinDate");
         EXPECT_EQ(wins.model()->rowCount(), 1);
-        EXPECT_EQ(rowText(wins, 1), "03/01/2000 1 1 2 30 40 41 42 43 5");
+        EXPECT_EQ(rowText(wins, 1), "03-01-2000 1 1 2 30 40 41 42 43 5");
         click(control<QPushButton>(dialog, "cmdExit"));
     });
     click(dates(2));
