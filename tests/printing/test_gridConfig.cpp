@@ -112,5 +112,20 @@ TEST_F(GridParamTest, CancelClosesAndChangesNothing) {
     EXPECT_EQ(gGridConfig->monneyUnit(), "euro");
 }
 
+TEST_F(GridParamTest, TheUnitIsAskedForFirstAlsoWhereThePriceIsMissingToo) {
+    for (const char *price : {"", "   ", "1.2"}) {
+        frmGridParam window;
+        window.txtUnit = "  ";
+        window.txtPrice = price;
+        desktop.messages.clear();
+        window.clickOK();
+        EXPECT_EQ(desktop.messages,
+                  (std::vector<ShownBox>{{"L'unité de monnaie doit être précisée.",
+                                          Icon::information, "boulix: Erreur N° 601"}}));
+        EXPECT_FALSE(window.closed());
+    }
+    EXPECT_EQ(gGridConfig->monneyUnit(), "euro");
+}
+
 } // namespace
 } // namespace boulix

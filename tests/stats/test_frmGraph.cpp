@@ -97,9 +97,22 @@ TEST_F(Graph, TheWindowOpensOnTheSettingsAndTheFixedColours) {
     EXPECT_EQ(limits(graph), (std::vector<std::string>{"-10", "10", "-10", "100"}));
     EXPECT_EQ(graph.plot.graphType(), 2);
     EXPECT_FALSE(graph.plot.showGrid());
-    EXPECT_EQ(graph.plot.curveColor().red, 255);
-    EXPECT_EQ(graph.plot.axesColor().blue, 255);
-    EXPECT_EQ(graph.plot.gridColor().green, 190);
+    EXPECT_EQ(graph.plot.curveColor(), (Color{255, 0, 0}));
+    EXPECT_EQ(graph.plot.axesColor(), (Color{0, 0, 255}));
+    EXPECT_EQ(graph.plot.gridColor(), (Color{190, 190, 190}));
+}
+
+TEST_F(Graph, AxesAndGridThatAreOffAreOffWhenTheWindowOpens) {
+    for (const bool axes : {true, false})
+        for (const bool grid : {true, false}) {
+            settings(std::string("[graphique]\r\nvisualisation_axes=") + (axes ? "on" : "off") +
+                     "\r\nvisualisation_grille=" + (grid ? "on" : "off") + "\r\n");
+            const frmGraph graph;
+            EXPECT_EQ(graph.chkShowAxes, axes);
+            EXPECT_EQ(graph.plot.showAxes(), axes);
+            EXPECT_EQ(graph.chkShowGrid, grid);
+            EXPECT_EQ(graph.plot.showGrid(), grid);
+        }
 }
 
 TEST_F(Graph, ChangesInTheWindowLastForTheRunAndAreNotSaved) {
@@ -152,6 +165,36 @@ TEST_F(Graph, AManualRangeIsThereAgainWhenTheWindowOpensAgain) {
     EXPECT_EQ(again.plot.xMin(), 5);
     again.plot.addCurve({1, 2, 3}, {40, 100, 60});
     EXPECT_EQ(again.plot.xMin(), 5);
+}
+
+TEST_F(Graph, TheReturnToTheAutomaticRangeIsThereAgainWhenTheWindowOpensAgain) {
+    {
+        frmGraph graph;
+        graph.clickManualRange();
+        graph.clickAutoRange();
+    }
+    EXPECT_TRUE(modStats::graphAutoRange);
+    const frmGraph again;
+    EXPECT_TRUE(again.optAutoRange);
+    EXPECT_TRUE(again.plot.autoRange());
+    EXPECT_FALSE(again.frameManualRangeEnabled);
+}
+
+TEST_F(Graph, EachLimitGoesToItsOwnEndOfItsOwnAxis) {
+    const PlotRange typed{5, 25, 3, 45};
+    {
+        frmGraph graph;
+        graph.clickManualRange();
+        graph.leaveLimit(frmGraph::xMin, "5");
+        graph.leaveLimit(frmGraph::xMax, "25");
+        graph.leaveLimit(frmGraph::yMin, "3");
+        graph.leaveLimit(frmGraph::yMax, "45");
+        EXPECT_EQ(graph.plot.range(), typed);
+        EXPECT_EQ(limits(graph), (std::vector<std::string>{"5", "25", "3", "45"}));
+    }
+    const frmGraph again;
+    EXPECT_EQ(again.plot.range(), typed);
+    EXPECT_EQ(limits(again), (std::vector<std::string>{"5", "25", "3", "45"}));
 }
 
 TEST_F(Graph, TheWholeCurveCanBeShownInTheManualRangeToo) {
