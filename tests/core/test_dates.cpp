@@ -83,7 +83,7 @@ TEST(Dates, ADateThatCannotBeShownIsAnOverflow) {
 using ShortDates = FreshProgramTest;
 
 TEST_F(ShortDates, TheShortFormIsTheOneOfTheSystem) {
-    EXPECT_EQ(shortDate(dateOf({2008, 10, 4})), "04/10/2008");
+    EXPECT_EQ(shortDate(dateOf({2008, 10, 4})), "04-10-2008");
     platform.shortForm = [](Date date) { return longDate(date).substr(0, 5); };
     EXPECT_EQ(shortDate(dateOf({2008, 10, 4})), "04/10");
 }

@@ -144,7 +144,7 @@ TEST_F(OperatorHistory, IsExportedDrawByDrawAsTheOperatorHasIt) {
         if (field.size() < 12)
             continue;
         const std::string &day = field[3];
-        std::string text = day.substr(6, 2) + "/" + day.substr(4, 2) + "/" + day.substr(0, 4);
+        std::string text = day.substr(6, 2) + "-" + day.substr(4, 2) + "-" + day.substr(0, 4);
         text += ";" + field[1];
         for (std::size_t i = 5; i < 12; ++i)
             text += ";" + field[i];
