@@ -6,6 +6,7 @@
 #include "ui/frame/messageBox.h"
 #include "ui/widgets/qtText.h"
 
+#include <QAction>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -35,12 +36,23 @@ QString bareDescription(const QString &description) {
     return description.left(bracket).trimmed();
 }
 
+/// A dialog that asks for a name deletes, renames and moves nothing. Only Qt's own can be told so:
+/// those of the desktops bring their own context menus.
+void forbidChanges(QFileDialog &dialog) {
+    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    dialog.setOption(QFileDialog::ReadOnly);
+    for (const char *offer : {"qt_rename_action", "qt_delete_action", "qt_new_folder_action"})
+        if (auto *action = dialog.findChild<QAction *>(QLatin1String(offer)))
+            action->setVisible(false); // off already, and off for good
+}
+
 void prepare(QFileDialog &dialog, const FileQuestion &question) {
     dialog.setObjectName(QStringLiteral("comDiag"));
+    forbidChanges(dialog);
     dialog.setWindowTitle(toQt(question.title));
     dialog.setDirectory(toQt(question.folder));
     dialog.setNameFilters(nameFilters(question.filter));
-    // Where the dialog is Qt's own, its columns shall be as wide as what they say.
+    // The columns shall be as wide as what they say.
     if (auto *files = dialog.findChild<QTreeView *>(QStringLiteral("treeView"))) {
         dialog.resize(760, 480);
         files->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
