@@ -57,9 +57,9 @@ class Paper : public Canvas {
     virtual double sheetHeight() const = 0;
 
     virtual void newPage() = 0;
-    /// Sends the document to the printer; nothing may be drawn any more. A printer that does not
-    /// take it fails with `Failure::printerError`, a disk that has no room for it with
-    /// `Failure::diskFull`, here or at any earlier step.
+    /// Sends the document to the printer; nothing may be drawn any more. A disk that has no room
+    /// for it fails with `Failure::diskFull`, here or at any earlier step. A printer that does not
+    /// take it may take its time to say so: the user is told when it does.
     virtual void endDocument() = 0;
 };
 

@@ -30,6 +30,10 @@ class PrinterSystem {
     /// A printer that is not there any more fails with `Failure::printerError`.
     virtual std::unique_ptr<Paper> openDocument(const std::string &printer,
                                                 const std::string &title, Sides sides) = 0;
+    /// For the end of the program: waits until the ended documents are out of the house. False
+    /// when the program must stay: a document was refused, or the user wants to. At once true
+    /// where `Paper::endDocument` already waits.
+    virtual bool finishDocuments() { return true; }
 };
 
 /// The printers in use; `setPrinterSystem` comes first, and keeps a reference only.

@@ -7,6 +7,7 @@
 #include "core/platform.h"
 #include "draws/dbCombs.h"
 #include "files/slotFile.h"
+#include "printing/printerSystem.h"
 #include "sill/appInfo.h"
 #include "sill/desktop.h"
 #include "sill/help.h"
@@ -144,6 +145,8 @@ bool frmMain::queryClose() {
     const std::string question = "Etes-vous sûr de vouloir quitter " + name + "?";
     if (!desktop().askYesNo(question, Icon::question, name))
         return false;
+    if (!printerSystem().finishDocuments())
+        return false; // a document would be lost
     desktop().unloadOtherWindows();
     if (modMain::gDebug)
         modMain::closeLog();

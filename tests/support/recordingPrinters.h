@@ -34,6 +34,9 @@ class RecordingPrinters : public PrinterSystem {
     TextMetrics metrics;
     /// The page at whose beginning the printer breaks down; 0 for never.
     int breakAtPage = 0;
+    /// Whether the program may end, and how often it asked.
+    bool mayFinish = true;
+    int finishings = 0;
 
     /// All documents that were opened, oldest first; references to them stay good.
     std::deque<PrintedDocument> documents;
@@ -44,6 +47,10 @@ class RecordingPrinters : public PrinterSystem {
     std::string defaultPrinter() const override { return standard; }
     std::unique_ptr<Paper> openDocument(const std::string &printer, const std::string &title,
                                         Sides sides) override;
+    bool finishDocuments() override {
+        ++finishings;
+        return mayFinish;
+    }
 };
 
 } // namespace boulix::testing_support

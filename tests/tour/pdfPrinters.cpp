@@ -9,7 +9,9 @@ namespace boulix {
 
 std::unique_ptr<Paper> PdfPrinters::openDocument(const std::string &, const std::string &title,
                                                  Sides) {
-    return std::make_unique<PdfPaper>(QPageSize(QPageSize::A4), title, printed);
+    return std::make_unique<PdfPaper>(
+        QPageSize(QPageSize::A4), title,
+        [this](std::unique_ptr<QTemporaryFile> file) { printed(file->fileName()); });
 }
 
 } // namespace boulix

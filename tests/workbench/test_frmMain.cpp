@@ -97,6 +97,23 @@ TEST_F(MainWindow, QuittingWithYesUnloadsTheOtherWindowsAndClosesTheLog) {
     EXPECT_EQ(desktop.otherWindowsUnloaded, 1);
 }
 
+TEST_F(MainWindow, ADocumentThatIsNotHandedOverKeepsTheProgram) {
+    platform.arguments = "-debug";
+    modMain::Main();
+    desktop.answerNo();
+    EXPECT_FALSE(mainWindow->queryClose());
+    EXPECT_EQ(printers.finishings, 0) << "nobody waits for the documents of a program that stays";
+    printers.mayFinish = false;
+    desktop.answerYes();
+    EXPECT_FALSE(mainWindow->queryClose());
+    EXPECT_TRUE(modMain::gLogFile.is_open());
+    EXPECT_EQ(desktop.otherWindowsUnloaded, 0);
+    printers.mayFinish = true;
+    desktop.answerYes();
+    EXPECT_TRUE(mainWindow->queryClose());
+    EXPECT_EQ(printers.finishings, 2);
+}
+
 TEST_F(MainWindow, HelpOpensTheHelpFileOfTheApplicationFolderInItsWindow) {
     mainWindow->showHelp();
     ASSERT_EQ(desktop.helpCalls.size(), 1U);

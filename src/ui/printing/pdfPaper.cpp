@@ -30,7 +30,7 @@ PdfPaper::PdfPaper(const QPageSize &sheet, const std::string &title, Deliver del
     : PaintedCanvas(painter_, {dotsPerInch / millimetresPerInch,
                                static_cast<double>(dotsPerInch) / paperDotsPerInch,
                                {}}),
-      writer_(opened(file_)), deliver_(std::move(deliver)) {
+      writer_(opened(*file_)), deliver_(std::move(deliver)) {
     writer_.setPageLayout(QPageLayout(sheet, QPageLayout::Portrait, QMarginsF()));
     writer_.setResolution(dotsPerInch);
     writer_.setTitle(toQt(title));
@@ -54,15 +54,15 @@ void PdfPaper::newPage() {
 }
 
 void PdfPaper::endDocument() {
-    if (!painter_.end() || !file_.flush() || file_.error() != QFileDevice::NoError)
+    if (!painter_.end() || !file_->flush() || file_->error() != QFileDevice::NoError)
         failAsFile();
-    deliver_(file_.fileName());
+    deliver_(std::move(file_));
 }
 
 /// The document could not be written on: most likely its file could not.
 void PdfPaper::failAsFile() const {
-    if (file_.error() != QFileDevice::NoError)
-        fail(Failure::diskFull, fromQt(file_.errorString()));
+    if (file_->error() != QFileDevice::NoError)
+        fail(Failure::diskFull, fromQt(file_->errorString()));
     fail(Failure::printerError);
 }
 

@@ -11,6 +11,7 @@
 #include <QTemporaryFile>
 
 #include <functional>
+#include <memory>
 #include <string>
 
 namespace boulix {
@@ -20,8 +21,8 @@ namespace boulix {
 /// computer, so a document that is dropped leaves no trace.
 class PdfPaper : public PaintedCanvas<Paper> {
   public:
-    /// Takes the finished file, which is gone when it returns; fails as `endDocument` may.
-    using Deliver = std::function<void(const QString &fileName)>;
+    /// Takes the finished file, which is gone when its last owner is.
+    using Deliver = std::function<void(std::unique_ptr<QTemporaryFile> file)>;
 
     PdfPaper(const QPageSize &sheet, const std::string &title, Deliver deliver);
     ~PdfPaper() override;
@@ -37,7 +38,7 @@ class PdfPaper : public PaintedCanvas<Paper> {
     [[noreturn]] void failAsFile() const;
 
     // In the order in which they depend on one another: the painter is the first to go.
-    QTemporaryFile file_;
+    std::unique_ptr<QTemporaryFile> file_ = std::make_unique<QTemporaryFile>();
     QPdfWriter writer_;
     QPainter painter_;
     Deliver deliver_;

@@ -4,35 +4,20 @@
 #include "ui/printing/qtPrinterSystem.h"
 
 #include "core/failure.h"
-#include "core/text.h"
 #include "ui/printing/pdfPaper.h"
+#include "ui/printing/printQueue.h"
 #include "ui/widgets/qtText.h"
 
 #include <QPrinterInfo>
-#include <QProcess>
 #include <QStringList>
+
+#include <utility>
 
 namespace boulix {
 
-namespace {
+QtPrinterSystem::QtPrinterSystem() : queue_(std::make_unique<PrintQueue>()) {}
 
-constexpr int patience = 60000; // milliseconds that the print system may take for a document
-
-// A printer object of Qt would send the document by itself, but it keeps a refusal to itself and
-// sends half a document too, and slips must neither get lost nor come out by halves.
-void submit(const QStringList &order, const QString &fileName) {
-    QProcess lp;
-    lp.start(QStringLiteral("lp"), order + QStringList{QStringLiteral("--"), fileName});
-    const bool finished = lp.waitForFinished(patience);
-    if (finished && lp.exitStatus() == QProcess::NormalExit && lp.exitCode() == 0)
-        return;
-    const QString complaint = finished ? QString::fromLocal8Bit(lp.readAllStandardError()).trimmed()
-                                       : QStringLiteral("lp: ") + lp.errorString();
-    fail(Failure::printerError,
-         "L'imprimante n'accepte pas le document." + std::string(crlf) + fromQt(complaint));
-}
-
-} // namespace
+QtPrinterSystem::~QtPrinterSystem() = default;
 
 std::vector<std::string> QtPrinterSystem::printers() const {
     std::vector<std::string> names;
@@ -53,13 +38,17 @@ std::unique_ptr<Paper> QtPrinterSystem::openDocument(const std::string &printer,
     QPageSize sheet = info.defaultPageSize();
     if (!sheet.isValid())
         sheet = QPageSize(QPageSize::A4);
-    QStringList order = {QStringLiteral("-d"), toQt(printer),
-                         QStringLiteral("-t"), toQt(title),
-                         QStringLiteral("-o"), QStringLiteral("print-scaling=none")};
+    QStringList options = {QStringLiteral("-o"), QStringLiteral("print-scaling=none")};
     if (sides == Sides::one)
-        order << QStringLiteral("-o") << QStringLiteral("sides=one-sided");
+        options << QStringLiteral("-o") << QStringLiteral("sides=one-sided");
     return std::make_unique<PdfPaper>(
-        sheet, title, [order](const QString &fileName) { submit(order, fileName); });
+        sheet, title, [this, printer, title, options](std::unique_ptr<QTemporaryFile> file) {
+            queue_->add({std::move(file), toQt(printer), toQt(title), options});
+        });
+}
+
+bool QtPrinterSystem::finishDocuments() {
+    return queue_->finish();
 }
 
 } // namespace boulix

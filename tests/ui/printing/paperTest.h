@@ -21,8 +21,9 @@ class PaperTest : public BoulixTest {
     /// The server of the whole run; it ends with the program.
     static PrintServer &server();
 
-    /// What `queue` printed last.
-    static PrintedPages lastPrinted(const std::string &queue) {
+    /// What `queue` printed last, once all documents are handed over.
+    PrintedPages lastPrinted(const std::string &queue) {
+        EXPECT_TRUE(system.finishDocuments());
         return PrintedPages(queue == "Salon" ? server().lastOutput() : server().lastDocument());
     }
 

@@ -37,7 +37,7 @@ class PdfPaperTest : public ::testing::Test {
   protected:
     PdfPaper newPaper() {
         return PdfPaper(QPageSize(QPageSize::A4), "essai",
-                        [this](const QString &fileName) { deliver(fileName); });
+                        [this](auto finished) { deliver(finished->fileName()); });
     }
     void deliver(const QString &fileName) {
         QFile file(fileName);

@@ -21,14 +21,19 @@ std::string keyword(const std::string &name, const std::string &value) {
     return "\x44" + counted(name) + counted(value);
 }
 
-void printLine(const std::string &text) {
-    auto report = modPrinter::startReport("essai");
-    ASSERT_TRUE(report);
-    report->line(text);
-    report->end();
-}
+class PrintSystemTest : public PaperTest {
+  protected:
+    /// Prints a report and waits until the print system has taken or refused it.
+    void printLine(const std::string &text) {
+        auto report = modPrinter::startReport("essai");
+        ASSERT_TRUE(report);
+        report->line(text);
+        report->end();
+        taken = system.finishDocuments();
+    }
 
-class PrintSystemTest : public PaperTest {};
+    bool taken = false;
+};
 
 TEST_F(PrintSystemTest, ListsTheQueuesAndTheDefaultOne) {
     EXPECT_EQ(system.printers(), (Names{"Bureau", "Salon"}));
@@ -85,7 +90,7 @@ TEST_F(PrintSystemTest, APrinterThatGoesAwayDuringTheRunIsAFailure) {
     modPrinter::currentPrinter("Grenier");
     server().removeQueue("Grenier");
     const int before = server().documents();
-    const auto failure = failureOf([] { printLine("perdue"); });
+    const auto failure = failureOf([this] { printLine("perdue"); });
     ASSERT_TRUE(failure);
     EXPECT_EQ(failure->number(), 482);
     EXPECT_EQ(failure->description(), "L'imprimante Grenier n'est pas disponible.");
@@ -104,13 +109,16 @@ TEST_F(PrintSystemTest, AQueueThatTakesNoDocumentsIsAFailureInItsOwnWords) {
     outputOf(QStringLiteral("cupsreject"), {QStringLiteral("Bureau")});
     modPrinter::currentPrinter("Bureau");
     const int before = server().documents();
-    const auto failure = failureOf([] { printLine("refusée"); });
+    printLine("refusée");
     outputOf(QStringLiteral("cupsaccept"), {QStringLiteral("Bureau")});
-    ASSERT_TRUE(failure);
-    EXPECT_EQ(failure->number(), 482);
-    EXPECT_NE(failure->description().find("L'imprimante n'accepte pas le document.\r\n"),
-              std::string::npos);
-    EXPECT_NE(failure->description().find("Bureau"), std::string::npos) << failure->description();
+    EXPECT_FALSE(taken);
+    ASSERT_EQ(desktop.messages.size(), 1U);
+    const ShownBox &box = desktop.messages[0];
+    EXPECT_EQ(box.title, "Boulix Erreur système N° 482");
+    EXPECT_EQ(box.icon, Icon::critical);
+    const std::string told = "L'imprimante n'accepte pas le document « Boulix - essai ».\r\n";
+    EXPECT_EQ(box.text.substr(0, told.size()), told);
+    EXPECT_NE(box.text.find("Bureau"), std::string::npos) << box.text;
     EXPECT_EQ(server().documents(), before);
 }
 
@@ -125,9 +133,23 @@ TEST_F(PrintSystemTest, ADocumentThatIsDroppedIsNotPrinted) {
     EXPECT_EQ(server().documents(), before);
 }
 
+TEST_F(PrintSystemTest, DocumentsPrintedWhileOneIsStillOnItsWayComeOutInTheirOrder) {
+    const int before = server().documents();
+    for (const char *text : {"la première", "la deuxième", "la dernière"}) {
+        auto report = modPrinter::startReport("essai");
+        ASSERT_TRUE(report);
+        report->line(text);
+        report->end();
+    }
+    EXPECT_EQ(lastPrinted("Salon").lines().back().text, "la dernière");
+    EXPECT_EQ(server().documents(), before + 3);
+    EXPECT_TRUE(desktop.messages.empty());
+}
+
 TEST_F(PrintSystemTest, SlipsComeUnscaledOneOnASheet) {
     modPrinter::currentPrinter("Bureau");
     modPrinter::printCanvas();
+    ASSERT_TRUE(system.finishDocuments());
     const std::string order = server().lastOrder();
     EXPECT_NE(order.find(keyword("print-scaling", "none")), std::string::npos);
     EXPECT_NE(order.find(keyword("sides", "one-sided")), std::string::npos);

@@ -145,6 +145,7 @@ TEST_F(StatsOnPaperTest, AStoppedQueueKeepsTheStatisticUntilItRunsAgain) {
     outputOf(QStringLiteral("cupsdisable"), {QStringLiteral("Salon")});
     mainWindow->statistics.clickButton(statisticsPage::computeType);
     mainWindow->statistics.clickButton(statisticsPage::printResult);
+    EXPECT_TRUE(system.finishDocuments());
     EXPECT_TRUE(server().waits("Salon"));
     EXPECT_TRUE(desktop.messages.empty());
     outputOf(QStringLiteral("cupsenable"), {QStringLiteral("Salon")});
@@ -159,6 +160,7 @@ TEST_F(StatsOnPaperTest, ASavedPrinterThatIsGonePrintsOnTheDefaultOne) {
     modPrinter::loadSettings();
     mainWindow->statistics.clickButton(statisticsPage::computeType);
     mainWindow->statistics.clickButton(statisticsPage::printResult);
+    EXPECT_TRUE(system.finishDocuments());
     EXPECT_TRUE(desktop.messages.empty());
     EXPECT_NE(server().lastOrder().find("/printers/Salon"), std::string::npos);
 }
