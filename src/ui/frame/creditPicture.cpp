@@ -37,6 +37,13 @@ QStringList CreditPicture::drawnLines() const {
     return lines;
 }
 
+QList<int> CreditPicture::drawnSizes() const {
+    QList<int> sizes;
+    for (const Placed &line : placed_)
+        sizes << line.font.pointSize();
+    return sizes;
+}
+
 void CreditPicture::paintEvent(QPaintEvent *) {
     QPainter painter(this);
     painter.fillRect(rect(), Qt::white);

@@ -29,6 +29,8 @@ class CreditPicture : public QWidget {
     int textHeight() const { return textHeight_; }
     /// The lines as they are drawn, after cutting.
     QStringList drawnLines() const;
+    /// The font size of each of them, in points.
+    QList<int> drawnSizes() const;
 
   protected:
     void paintEvent(QPaintEvent *event) override;

@@ -91,7 +91,7 @@ QWidget *PrintDialog::makeOffsetFrame() {
     auto *frame = new QGroupBox(QStringLiteral("Paramètres pour l'impression des grilles"), this);
     auto *layout = new QFormLayout(frame);
     layout->setSpacing(theme::gap);
-    auto *lblOffsetX = new QLabel(QStringLiteral("Décalage &horizontal (mm)"), frame);
+    auto *lblOffsetX = new QLabel(QStringLiteral("Décalage h&orizontal (mm)"), frame);
     auto *lblOffsetY = new QLabel(QStringLiteral("Décalage &vertical (mm)"), frame);
     lblOffsetX->setObjectName(QStringLiteral("lblOffsetX"));
     lblOffsetY->setObjectName(QStringLiteral("lblOffsetY"));

@@ -15,6 +15,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QWindow>
 #include <QtTest/QTest>
 
 namespace boulix {
@@ -32,6 +33,15 @@ class DialogsTest : public ScreenTest {
     }
     static std::string status(const QWidget &dialog) {
         return control<QLabel>(dialog, "lblStatus").text().toStdString();
+    }
+    static std::string captionOf(const QWidget &dialog, const char *button) {
+        return control<QPushButton>(dialog, button).text().remove(QLatin1Char('&')).toStdString();
+    }
+    /// A button that is reached by its key is shown pressed for a moment before it acts.
+    static constexpr int afterMnemonic = 250; // milliseconds
+    static void alt(QWidget &dialog, Qt::Key key) {
+        QTest::keyClick(dialog.windowHandle(), key, Qt::AltModifier);
+        QTest::qWait(afterMnemonic);
     }
     static void press(Qt::Key key) { QTest::keyClick(QApplication::activeModalWidget(), key); }
 };
@@ -118,6 +128,48 @@ TEST_F(DialogsTest, ConfirmedNumbersComeBackInTheOrderOfMarking) {
     EXPECT_EQ(numbersOf(chosen), (Numbers{34, 2, 19}));
 }
 
+TEST_F(DialogsTest, TheButtonsOfTheNumberDialogSayWhatTheyDo) {
+    robot.in("frmNbrSelector", [](QWidget &dialog) {
+        const std::vector<std::pair<const char *, const char *>> captions = {
+            {"cmdOK", "Valider la sélection"},
+            {"cmdCancel", "Annuler"},
+            {"cmdClear", "Tout Effacer"},
+            {"cmdSelectAll", "Tout sélectionner"}};
+        for (const auto &[name, caption] : captions)
+            EXPECT_EQ(captionOf(dialog, name), caption);
+        click(control<QPushButton>(dialog, "cmdCancel"));
+    });
+    selector chosen;
+    chosen.selectNbr();
+}
+
+TEST_F(DialogsTest, TheNumberDialogIsDrivenByItsKeys) {
+    robot.in("frmNbrSelector", [](QWidget &dialog) {
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog));
+        alt(dialog, Qt::Key_S);
+        EXPECT_EQ(status(dialog), "49 numéros");
+        alt(dialog, Qt::Key_E);
+        EXPECT_EQ(status(dialog), "0 numéros");
+        mark(dialog, {12});
+        alt(dialog, Qt::Key_V);
+        EXPECT_FALSE(dialog.isVisible());
+    });
+    selector chosen;
+    chosen.setSelect(49, 0);
+    chosen.selectNbr();
+    EXPECT_EQ(numbersOf(chosen), (Numbers{12}));
+    robot.in("frmNbrSelector", [](QWidget &dialog) {
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog));
+        mark(dialog, {12});
+        alt(dialog, Qt::Key_A);
+        EXPECT_FALSE(dialog.isVisible());
+    });
+    selector left;
+    left.setSelect(49, 0);
+    left.selectNbr();
+    EXPECT_EQ(left.nSelectedNbr(), 0);
+}
+
 TEST_F(DialogsTest, TooFewNumbersBringTheDialogBackWithItsMarks) {
     robot.in("frmNbrSelector",
              [](QWidget &dialog) {
@@ -186,6 +238,7 @@ TEST_F(DialogsTest, TheDateDialogOpensOnTodayAndTheFirstDraw) {
         EXPECT_EQ(control<QCalendarWidget>(dialog, "mvwDate").selectedDate(), QDate(2026, 11, 15));
         EXPECT_EQ(control<QLabel>(dialog, "lblTirage").text().toStdString(), "1");
         EXPECT_EQ(control<QLabel>(dialog, "lblTirageTitle").text().toStdString(), "Tirage");
+        EXPECT_EQ(captionOf(dialog, "cmdOK"), "Utiliser la date définie");
         click(control<QPushButton>(dialog, "cmdOK"));
     });
     const DrawDate answer = desktop->runDateDialog();
@@ -210,6 +263,24 @@ TEST_F(DialogsTest, TheDateDialogGivesTheChosenDayAndDraw) {
     const DrawDate answer = desktop->runDateDialog();
     EXPECT_EQ(longDate(answer.day), "19/05/1976");
     EXPECT_EQ(answer.id, 2);
+}
+
+TEST_F(DialogsTest, TheDateDialogIsDrivenByItsKeys) {
+    robot.in("frmSelDate", [](QWidget &dialog) {
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog));
+        auto &calendar = control<QCalendarWidget>(dialog, "mvwDate");
+        auto &days = control<QWidget>(dialog, "qt_calendar_calendarview");
+        days.setFocus();
+        QTest::keyClick(&days, Qt::Key_Right);
+        EXPECT_EQ(calendar.selectedDate(), QDate(2026, 11, 16));
+        QTest::keyClick(&days, Qt::Key_Up);
+        EXPECT_EQ(calendar.selectedDate(), QDate(2026, 11, 9));
+        alt(dialog, Qt::Key_U);
+        EXPECT_FALSE(dialog.isVisible());
+    });
+    const DrawDate answer = desktop->runDateDialog();
+    EXPECT_EQ(longDate(answer.day), "09/11/2026");
+    EXPECT_EQ(answer.id, 1);
 }
 
 TEST_F(DialogsTest, TheDateDialogIsLeftByItsButtonOnly) {

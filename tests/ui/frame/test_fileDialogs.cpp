@@ -134,7 +134,9 @@ TEST_P(FileDialogTest, NoKeyDeletesOrRenames) {
                 for (const auto modifier : {Qt::NoModifier, Qt::ShiftModifier, Qt::ControlModifier})
                     if (!leaves) {
                         markPrecious(dialog, shown);
-                        QTest::keyClick(&shown, key, modifier);
+                        // Not keyClick, which knows no letter for some of them and ends the
+                        // program.
+                        QTest::sendKeyEvent(QTest::Click, &shown, key, QString(), modifier);
                     }
             }
         }

@@ -44,6 +44,13 @@ TEST_F(MainWindowTest, ItOpensOnTheDatabasePageWithAnEmptyBase) {
     EXPECT_EQ(visibleWindow(QStringLiteral("frmSplash")), nullptr);
 }
 
+TEST_F(MainWindowTest, ItIsAsWideAndAsHighAsItAlwaysWasInTodaysPixels) {
+    constexpr double pixelsPerTwip = 1.35 / 15;
+    const MainWindow &window = start();
+    const QSize told = QSize(8685, 7560) * pixelsPerTwip;
+    EXPECT_EQ(window.size(), told.expandedTo(window.minimumSizeHint()));
+}
+
 TEST_F(MainWindowTest, ThereAreSixTabsWithTheirToolTipsAndIcons) {
     MainWindow &window = start();
     const auto &tabs = control<QTabWidget>(window, "TabStrip");

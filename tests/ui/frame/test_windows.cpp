@@ -63,6 +63,10 @@ TEST_F(WindowsTest, TheCreditsSayWhoMadeTheProgramInTheirColours) {
     EXPECT_EQ(lines[2].toStdString(), "(c) 2003 Quillon Logiciels");
     EXPECT_EQ(lines.mid(3).join(QLatin1Char(' ')).toStdString(), gAppInfo->disclaimer());
     EXPECT_EQ(control<CreditPicture>(about, "picInfo_1").drawnLines(), lines);
+    QList<int> sizes(lines.size(), 10);
+    sizes[0] = 14;
+    EXPECT_EQ(picture.drawnSizes(), sizes);
+    EXPECT_EQ(control<CreditPicture>(about, "picInfo_1").drawnSizes(), sizes);
     const QImage image = picture.grab().toImage();
     for (const QColor colour : {QColor(255, 0, 0), QColor(0, 0, 200), QColor(0, 0, 255)})
         EXPECT_TRUE(hasColour(image, colour)) << colour.name().toStdString();

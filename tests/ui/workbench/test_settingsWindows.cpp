@@ -15,9 +15,19 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QWindow>
+#include <QtTest/QTest>
+
+#include <gmock/gmock.h>
+
+#include <functional>
+#include <string>
+#include <vector>
 
 namespace boulix {
 namespace {
@@ -48,6 +58,15 @@ class SettingsWindowsTest : public ScreenTest {
     }
     static void press(QWidget &dialog, const char *button) {
         click(control<QPushButton>(dialog, button));
+    }
+    /// A button that is reached by its key is shown pressed for a moment before it acts.
+    static constexpr int afterMnemonic = 250; // milliseconds
+    static void alt(QWidget &dialog, Qt::Key key) {
+        QTest::keyClick(dialog.windowHandle(), key, Qt::AltModifier);
+        QTest::qWait(afterMnemonic);
+    }
+    static std::string plain(QString caption) {
+        return caption.remove(QLatin1Char('&')).toStdString();
     }
     static std::string saved(const char *section, const char *key) {
         return settings::read(section, key, "nothing");
@@ -171,6 +190,122 @@ TEST_F(SettingsWindowsTest, AGridWithoutUnitOrPriceIsNotTaken) {
     pick("mnuGrid");
     EXPECT_EQ(gGridConfig->monneyUnit(), "euro");
     EXPECT_EQ(saved("grille", "unite_monnaie"), "nothing");
+}
+
+TEST_F(SettingsWindowsTest, ThePrinterSettingsAreDrivenByTheirKeys) {
+    robot.in("frmPrint", [](QWidget &dialog) {
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog));
+        alt(dialog, Qt::Key_M);
+        QTest::keyClick(&control<QComboBox>(dialog, "cmbPrinter"), Qt::Key_Down);
+        const std::vector<std::pair<Qt::Key, const char *>> directions = {
+            {Qt::Key_B, "optPrintDir_3"},
+            {Qt::Key_H, "optPrintDir_2"},
+            {Qt::Key_G, "optPrintDir_0"},
+            {Qt::Key_D, "optPrintDir_1"}};
+        for (const auto &[key, option] : directions) {
+            alt(dialog, key);
+            EXPECT_TRUE(control<QRadioButton>(dialog, option).isChecked()) << option;
+        }
+        alt(dialog, Qt::Key_O);
+        QTest::keyClicks(dialog.focusWidget(), QStringLiteral("1.5"));
+        alt(dialog, Qt::Key_V);
+        QTest::keyClicks(dialog.focusWidget(), QStringLiteral("-2"));
+        QTest::keyClick(&dialog, Qt::Key_Return);
+        EXPECT_FALSE(dialog.isVisible());
+    });
+    pick("mnuPrinter");
+    EXPECT_EQ(saved("impression", "imprimante"), "Salon");
+    EXPECT_EQ(saved("impression", "offset_X"), "1.5");
+    EXPECT_EQ(saved("impression", "offset_Y"), "-2");
+    EXPECT_EQ(saved("impression", "Direction"), "DROITE");
+}
+
+TEST_F(SettingsWindowsTest, EveryControlOfThePrinterSettingsSaysWhatItIs) {
+    robot.in("frmPrint", [](QWidget &dialog) {
+        const std::vector<std::string> told = {"Impression par la gauche",
+                                               "Impression par la droite", "Impression par le haut",
+                                               "Impression par le bas"};
+        for (std::size_t i = 0; i < told.size(); ++i)
+            EXPECT_EQ(
+                plain(control<QRadioButton>(dialog, ("optPrintDir_" + std::to_string(i)).c_str())
+                          .text()),
+                told[i]);
+        std::vector<std::string> words;
+        for (const QLabel *label : dialog.findChildren<QLabel *>())
+            words.push_back(plain(label->text()));
+        for (const QGroupBox *frame : dialog.findChildren<QGroupBox *>())
+            words.push_back(frame->title().toStdString());
+        EXPECT_THAT(words, ::testing::UnorderedElementsAre(
+                               "Imprimante", "Sélectionnez le sens d'impression du bulletin",
+                               "Décalage horizontal (mm)", "Décalage vertical (mm)",
+                               "Direction de l'impression du bulletin",
+                               "Paramètres pour l'impression des grilles"));
+        EXPECT_EQ(control<QComboBox>(dialog, "cmbPrinter").toolTip().toStdString(),
+                  "Sélectionnez votre imprimante ici");
+        press(dialog, "cmdCancel");
+    });
+    pick("mnuPrinter");
+}
+
+TEST_F(SettingsWindowsTest, TheGridSettingsAreDrivenByTheirKeys) {
+    robot.in("frmGridParam", [](QWidget &dialog) {
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog));
+        alt(dialog, Qt::Key_U);
+        QTest::keyClick(dialog.focusWidget(), Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClicks(dialog.focusWidget(), QStringLiteral("franc"));
+        alt(dialog, Qt::Key_P);
+        QTest::keyClicks(dialog.focusWidget(), QStringLiteral("2.5"));
+        QTest::keyClick(&dialog, Qt::Key_Return);
+        EXPECT_FALSE(dialog.isVisible());
+    });
+    pick("mnuGrid");
+    EXPECT_EQ(saved("grille", "unite_monnaie"), "franc");
+    EXPECT_EQ(saved("grille", "prix_grille"), "2.5");
+}
+
+TEST_F(SettingsWindowsTest, TheGraphSettingsAreDrivenByTheirKeys) {
+    robot.in("frmGraphParam", [](QWidget &dialog) {
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog));
+        alt(dialog, Qt::Key_T);
+        QTest::keyClick(dialog.focusWidget(), Qt::Key_Down);
+        alt(dialog, Qt::Key_X);
+        alt(dialog, Qt::Key_G);
+        QTest::keyClick(&dialog, Qt::Key_Return);
+        EXPECT_FALSE(dialog.isVisible());
+    });
+    pick("mnuGraphParam");
+    EXPECT_EQ(saved("graphique", "type"), "Points");
+    EXPECT_EQ(saved("graphique", "visualisation_axes"), "off");
+    EXPECT_EQ(saved("graphique", "visualisation_grille"), "off");
+}
+
+TEST_F(SettingsWindowsTest, AWindowThatIsLeftSavesAndPrintsNothing) {
+    const std::vector<std::pair<const char *, const char *>> windows = {
+        {"mnuPrinter", "frmPrint"},
+        {"mnuGrid", "frmGridParam"},
+        {"mnuGraphParam", "frmGraphParam"}};
+    const std::vector<std::function<void(QWidget &)>> ways = {
+        [](QWidget &dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); },
+        [](QWidget &dialog) { alt(dialog, Qt::Key_A); },
+        [](QWidget &dialog) { dialog.close(); },
+    };
+    for (const auto &[entry, name] : windows)
+        for (const auto &leave : ways) {
+            robot.in(name, [&leave](QWidget &dialog) {
+                EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog));
+                for (QLineEdit *box : dialog.findChildren<QLineEdit *>())
+                    box->setText(QStringLiteral("7"));
+                for (QComboBox *box : dialog.findChildren<QComboBox *>())
+                    box->setCurrentIndex(box->count() - 1);
+                leave(dialog);
+                EXPECT_FALSE(dialog.isVisible());
+            });
+            pick(entry);
+        }
+    EXPECT_FALSE(testing_support::fileExists(file("boulix.ini")));
+    EXPECT_EQ(modPrinter::currentPrinter(), "Bureau");
+    EXPECT_EQ(gGridConfig->monneyUnit(), "euro");
+    EXPECT_TRUE(printers.documents.empty());
 }
 
 } // namespace
