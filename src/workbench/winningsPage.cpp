@@ -12,10 +12,15 @@
 #include "files/slotFile.h"
 #include "games/frmRandomComb.h"
 #include "games/game.h"
+#include "printing/gridConfig.h"
+#include "sill/appInfo.h"
+#include "sill/desktop.h"
 #include "sill/reports.h"
+#include "winnings/chances.h"
 #include "winnings/gameResult.h"
 #include "winnings/money.h"
 #include "winnings/rapport.h"
+#include "workbench/frmChances.h"
 #include "workbench/frmWinDate.h"
 
 namespace boulix {
@@ -135,6 +140,8 @@ void winningsPage::clickPerfo(int index) {
             checkOverBase();
         else if (index == checkRandomDraws)
             checkOverRandomDraws();
+        else if (index == showChances)
+            tellChances();
     });
     refresh();
 }
@@ -158,6 +165,22 @@ void winningsPage::checkOverRandomDraws() {
     const auto count = narrow16(std::ssize(randomDraws));
     showCheck(currentGame->verifyCombList(randomDraws, count, pgrScanDB));
     datesKnown_ = false; // random draws have no dates
+}
+
+/// The chances of the game as it stands. They are counted anew each time: its grids, the prizes or
+/// the price may have changed.
+void winningsPage::tellChances() {
+    const float price = gGridConfig->price();
+    const std::string refusal = chancesRefusal(*currentGame, *gRapport, price);
+    if (!refusal.empty())
+        return desktop().showMessage(refusal, Icon::information, gAppInfo->name());
+    ProgressShown progress(frmChances::caption, "Calcul des chances sur tous les tirages...");
+    const auto chances = chancesOf(*currentGame, *gRapport, price, *progress);
+    progress.unload();
+    if (!chances || !view_)
+        return;
+    frmChances window(*chances, gGridConfig->monneyUnit());
+    view_->runChances(window);
 }
 
 void winningsPage::clickRapp(int index) {

@@ -14,6 +14,7 @@
 
 namespace boulix {
 
+class frmChances;
 class frmRandomComb;
 class frmWinDate;
 class gameResult;
@@ -29,6 +30,7 @@ class winningsView {
     /// Shows the window modally until the user closes it.
     virtual void runRandomComb(frmRandomComb &dialog) = 0;
     virtual void runWinDate(frmWinDate &window) = 0;
+    virtual void runChances(frmChances &window) = 0;
 };
 
 /// The sub-tabs of the game page that show what the current game has won: draw by draw, and over
@@ -40,7 +42,7 @@ class winningsPage {
     /// The sub-tabs, by their index in `TabGame`; the one behind them is no matter of this class.
     enum SubTab { verification, performance, report };
     /// The buttons of `tbarPerfo` and of `tbarRapp`.
-    enum PerfoButton { checkBase = 1, checkRandomDraws };
+    enum PerfoButton { checkBase = 1, checkRandomDraws, showChances };
     enum RappButton { loadTable = 1, saveTable, saveDefault };
     /// A text for each rank, index 0 for rank 1.
     using RankTexts = std::array<std::string, ranks>;
@@ -95,6 +97,7 @@ class winningsPage {
     void verifyDraw();
     void checkOverBase();
     void checkOverRandomDraws();
+    void tellChances();
     void runRapp(int index);
     void takeBoxes();
     void showCheck(const gameResult &result);

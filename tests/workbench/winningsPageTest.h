@@ -9,6 +9,7 @@
 #include "support/boulixTest.h"
 #include "support/lottery.h"
 #include "winnings/rapport.h"
+#include "workbench/frmChances.h"
 #include "workbench/frmMain.h"
 #include "workbench/frmWinDate.h"
 #include "workbench/winningsPage.h"
@@ -43,6 +44,7 @@ class WinningsPageTest : public BoulixTest, protected winningsView {
     }
     void runRandomComb(frmRandomComb &dialog) override { onRandomComb(dialog); }
     void runWinDate(frmWinDate &window) override { onWinDate(window); }
+    void runChances(frmChances &window) override { onChances(window); }
 
     using Texts = winningsPage::RankTexts;
 
@@ -70,6 +72,7 @@ class WinningsPageTest : public BoulixTest, protected winningsView {
     std::function<void()> onRefresh;
     std::function<void(frmRandomComb &)> onRandomComb;
     std::function<void(frmWinDate &)> onWinDate = [](frmWinDate &) {};
+    std::function<void(frmChances &)> onChances;
     int refreshes = 0;
 };
 

@@ -55,6 +55,9 @@ QWidget *PerformancePanel::makeToolbar() {
         {QStringLiteral("Tirages aléatoires"),
          QStringLiteral("Vérifier le jeu courant sur des combinaisons aléatoires"),
          QStringLiteral("dice"), QKeySequence(Qt::Key_F6)},
+        {QStringLiteral("Chances"),
+         QStringLiteral("Calculer les chances exactes du jeu courant sur tous les tirages"),
+         QStringLiteral("chart"), QKeySequence(Qt::Key_F7)},
     };
     return boulix::makeToolbar(
         QStringLiteral("tbarPerfo"), buttons, [this](int button) { page_.clickPerfo(button); },

@@ -6,6 +6,7 @@
 #include "ui/games/randomCombDialog.h"
 #include "ui/widgets/handsOff.h"
 #include "ui/widgets/qtText.h"
+#include "ui/winnings/chancesDialog.h"
 #include "ui/winnings/performancePanel.h"
 #include "ui/winnings/rankTable.h"
 #include "ui/winnings/reportPanel.h"
@@ -115,6 +116,10 @@ void WinningsPanels::runRandomComb(frmRandomComb &dialog) {
 
 void WinningsPanels::runWinDate(frmWinDate &window) {
     WinDateDialog(window, parent_->window()).exec();
+}
+
+void WinningsPanels::runChances(frmChances &window) {
+    ChancesDialog(window, parent_->window()).exec();
 }
 
 } // namespace boulix

@@ -38,6 +38,7 @@ class WinningsPanels : public QObject, public winningsView {
     void refresh() override;
     void runRandomComb(frmRandomComb &dialog) override;
     void runWinDate(frmWinDate &window) override;
+    void runChances(frmChances &window) override;
 
   private:
     using Labels = std::array<QLabel *, winningsPage::ranks>;

@@ -63,7 +63,7 @@ TEST_F(PageTabOrderTest, TheVerificationHasItsDraw) {
 
 TEST_F(PageTabOrderTest, ThePerformanceGoesFromItsButtonsToTheDatesRankByRank) {
     Names side;
-    append(side, "tbarPerfo", 1, 2);
+    append(side, "tbarPerfo", 1, 3);
     EXPECT_EQ(roundOfSide(winningsPage::performance), round(side)) << "there are no dates yet";
     mainWindow->winnings.clickPerfo(winningsPage::checkBase);
     append(side, "cmdPerfDate", 0, 10);

@@ -1,0 +1,102 @@
+// SPDX-FileCopyrightText: The Boulix developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "ui/winnings/chancesDialog.h"
+
+#include "ui/style/theme.h"
+#include "ui/widgets/qtText.h"
+#include "ui/widgets/reportView.h"
+#include "ui/winnings/chanceBars.h"
+#include "ui/winnings/rankTable.h"
+#include "workbench/frmChances.h"
+
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace boulix {
+
+ChancesDialog::ChancesDialog(frmChances &rules, QWidget *parent) : QDialog(parent), rules_(rules) {
+    setObjectName(QStringLiteral("frmChances"));
+    setWindowTitle(QString::fromUtf8(frmChances::caption));
+    // Tab goes through the controls in the order of their making.
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(theme::margin, theme::margin, theme::margin, theme::margin);
+    column->setSpacing(theme::margin);
+    QLabel *sentence = makeLabel("lblSentence", rules.lblSentence);
+    sentence->setFont(rankTable::strong(font()));
+    column->addWidget(sentence);
+    column->addWidget(makeList("lvwRanks", "Chances par rang", rules.lvwRanks, 12), 3);
+    column->addWidget(makeLabel("lblCases", rules.lblCases));
+    auto *below = new QHBoxLayout;
+    below->setSpacing(2 * theme::margin);
+    below->addLayout(makeLeftSide());
+    below->addWidget(new ChanceBars(rules.bars, this), 1);
+    column->addLayout(below, 2);
+    column->addLayout(makeButtons());
+}
+
+QLabel *ChancesDialog::makeLabel(const char *name, const std::string &text) {
+    auto *label = new QLabel(toQt(text), this);
+    label->setObjectName(QString::fromLatin1(name));
+    label->setWordWrap(true);
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    return label;
+}
+
+/// A list that shows `rows` rows at once where the screen is large enough.
+QWidget *ChancesDialog::makeList(const char *name, const char *accessibleName, reportList &list,
+                                 int rows) {
+    auto *view = new ReportView(list, this);
+    view->setObjectName(QString::fromLatin1(name));
+    view->setAccessibleName(QString::fromUtf8(accessibleName));
+    view->keepAllColumnsVisible();
+    const int header = view->header()->sizeHint().height() + 2 * view->frameWidth();
+    view->setMinimumHeight(header + std::min(rows, 6) * view->rowHeight());
+    view->setMaximumHeight(header + rows * view->rowHeight() + 2);
+    return view;
+}
+
+QLayout *ChancesDialog::makeLeftSide() {
+    auto *side = new QVBoxLayout;
+    side->setSpacing(theme::gap);
+    side->addLayout(makeMoney());
+    side->addSpacing(theme::gap);
+    side->addWidget(makeLabel("lblGuarantees", rules_.lblGuarantees));
+    if (rules_.hasGuarantees)
+        side->addWidget(makeList("lvwGuarantees", "Garanties", rules_.lvwGuarantees, 6));
+    side->addStretch();
+    return side;
+}
+
+QLayout *ChancesDialog::makeMoney() {
+    auto *form = new QFormLayout;
+    form->setHorizontalSpacing(theme::margin);
+    form->setVerticalSpacing(theme::gap / 2);
+    form->addRow(QStringLiteral("Mise"), makeLabel("lblStake", rules_.lblStake));
+    form->addRow(QStringLiteral("Gain moyen"), makeLabel("lblReturn", rules_.lblReturn));
+    form->addRow(QStringLiteral("Part de la mise rendue"),
+                 makeLabel("lblReturnPart", rules_.lblReturnPart));
+    form->addRow(QStringLiteral("Chance de gagner plus que la mise"),
+                 makeLabel("lblAboveStake", rules_.lblAboveStake));
+    return form;
+}
+
+QLayout *ChancesDialog::makeButtons() {
+    auto *cmdExit = new QPushButton(QStringLiteral("&Quitter"), this);
+    cmdExit->setObjectName(QStringLiteral("cmdExit"));
+    cmdExit->setToolTip(QStringLiteral("Fermer cette fenêtre"));
+    cmdExit->setDefault(true);
+    connect(cmdExit, &QPushButton::clicked, this, &QDialog::accept);
+    auto *row = new QHBoxLayout;
+    row->addStretch();
+    row->addWidget(cmdExit);
+    return row;
+}
+
+} // namespace boulix
