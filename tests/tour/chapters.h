@@ -18,7 +18,7 @@ void statisticsChapter(Tour &tour);
 /// Grids by every method, a system of one's own, elimination, the game on file and on slips.
 void gamesChapter(Tour &tour);
 
-/// Prizes, what the game won and when, a forecast, its test, and the game that comes of it.
+/// Prizes, what the game won and when, its chances, a forecast, its test, and the game that comes of it.
 void winningsChapter(Tour &tour);
 
 } // namespace boulix

@@ -72,6 +72,15 @@ void overRandomDraws(Tour &tour) {
     tour.picture("performances-sur-des-tirages-aleatoires");
 }
 
+void chances(Tour &tour) {
+    tour.player().in("frmChances", [&tour](QWidget &dialog) {
+        EXPECT_EQ(control<ReportView>(dialog, "lvwRanks").model()->rowCount(), 12);
+        tour.picture("chances-du-jeu");
+        click(control<QPushButton>(dialog, "cmdExit"));
+    });
+    tour.press("tbarPerfo_3");
+}
+
 void forecast(Tour &tour) {
     tour.turnTo("TabStrip", 5);
     constexpr std::array<const char *, 4> n = {"20", "6", "8", "3"};
@@ -144,6 +153,7 @@ void winningsChapter(Tour &tour) {
     drawByDraw(tour);
     overTheBase(tour);
     overRandomDraws(tour);
+    chances(tour);
     forecast(tour);
     testOnThePast(tour);
     gameFromForecast(tour);

@@ -9,14 +9,19 @@
 #include "games/game.h"
 #include "games/modGame.h"
 #include "keep.h"
+#include "printing/gridConfig.h"
+#include "sill/frmProgress.h"
 #include "ui/frame/mainWindow.h"
 #include "ui/games/displayGameDialog.h"
 #include "ui/games/gameListDialog.h"
 #include "ui/games/randomCombDialog.h"
+#include "ui/winnings/chancesDialog.h"
 #include "ui/winnings/winDateDialog.h"
 #include "ui/workbench/mainParts.h"
+#include "winnings/chances.h"
 #include "winnings/gameWin.h"
 #include "winnings/rapport.h"
+#include "workbench/frmChances.h"
 #include "workbench/frmMain.h"
 #include "workbench/frmWinDate.h"
 
@@ -96,10 +101,30 @@ void keepDialogs() {
     keep(datesDialog, QStringLiteral("frmWinDate"));
 }
 
+/// The chances of the game as it stands, and of one on too many numbers for a table of guarantees.
+void keepChances() {
+    gGridConfig->load();
+    for (const char *name : {"frmChances", "frmChances-many"}) {
+        frmProgress progress;
+        const auto chances = chancesOf(*currentGame, *gRapport, gGridConfig->price(), progress);
+        frmChances window(chances.value(), gGridConfig->monneyUnit());
+        ChancesDialog dialog(window);
+        keep(dialog, QString::fromLatin1(name));
+        dialog.resize(dialog.minimumSizeHint());
+        keep(dialog, QString::fromLatin1(name) + QStringLiteral("-smallest"));
+        for (std::int16_t n = 1; n <= 43; n = static_cast<std::int16_t>(n + 6))
+            currentGame->Add(GridRef(
+                gameComb({n, static_cast<std::int16_t>(n + 1), static_cast<std::int16_t>(n + 2),
+                          static_cast<std::int16_t>(n + 3), static_cast<std::int16_t>(n + 4),
+                          static_cast<std::int16_t>(n + 5)})));
+    }
+}
+
 } // namespace
 
 void keepGames() {
     makeGames();
     keepPages();
     keepDialogs();
+    keepChances();
 }

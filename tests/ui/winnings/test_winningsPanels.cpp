@@ -3,8 +3,11 @@
 
 #include "games/frmRandomComb.h"
 #include "support/lottery.h"
+#include "ui/style/theme.h"
 #include "ui/support/gameScreenTest.h"
+#include "ui/support/tabOrder.h"
 #include "ui/widgets/numberBall.h"
+#include "ui/winnings/chanceBars.h"
 #include "winnings/rapport.h"
 
 #include <QLabel>
@@ -119,6 +122,40 @@ TEST_F(WinningsPanelsTest, ACancelledRandomRunLeavesTheResultsAndTheDates) {
     press("tbarPerfo_2");
     EXPECT_EQ(label("lblVerComb_2"), "5");
     EXPECT_TRUE(dates(2).isEnabled());
+}
+
+TEST_F(WinningsPanelsTest, TheChancesOfTheGameOpenInAWindowOfTheirOwn) {
+    goToSide(winningsPage::performance);
+    robot.in("frmChances", [this](QWidget &dialog) {
+        EXPECT_EQ(dialog.windowTitle().toStdString(), "Chances du jeu");
+        EXPECT_TRUE(window.isEnabled()) << "the count is over";
+        const auto &ranks = control<ReportView>(dialog, "lvwRanks");
+        EXPECT_EQ(ranks.model()->rowCount(), 12);
+        EXPECT_EQ(ranks.model()->index(10, 3).data().toString().toStdString(), "301");
+        EXPECT_EQ(control<ReportView>(dialog, "lvwGuarantees").model()->rowCount(), 6);
+        const auto &bars = control<QWidget>(dialog, "chanceBars");
+        EXPECT_TRUE(bars.accessibleDescription().contains(QStringLiteral("6 numéros : 0,0000501")))
+            << bars.accessibleDescription().toStdString();
+        for (const char *name : {"lvwRanks", "lvwGuarantees"})
+            EXPECT_FALSE(control<QWidget>(dialog, name).accessibleName().isEmpty()) << name;
+        EXPECT_EQ(testing_support::tabOrder(dialog),
+                  (std::vector<std::string>{"lvwRanks", "lvwGuarantees", "cmdExit"}));
+        QTest::keyClick(&dialog, Qt::Key_Escape);
+        EXPECT_FALSE(dialog.isVisible());
+    });
+    press("tbarPerfo_3");
+}
+
+TEST_F(WinningsPanelsTest, ASmallerChanceHasAShorterBar) {
+    ChanceBars bars({{"un", 1, "toujours"}, {"deux", 0.01, ""}, {"trois", 0.0001, ""}});
+    bars.resize(bars.sizeHint());
+    EXPECT_NEAR(bars.barOf(1).width(), bars.barOf(0).width() / 2, 0.001)
+        << "half the powers of ten";
+    EXPECT_NEAR(bars.barOf(2).width(), 0, 0.001);
+    EXPECT_GT(bars.barOf(1).top(), bars.barOf(0).bottom());
+    const QImage picture = bars.grab().toImage();
+    EXPECT_EQ(picture.pixelColor(bars.barOf(1).center().toPoint()), theme::accent);
+    EXPECT_NE(picture.pixelColor(bars.barOf(1).topRight().toPoint() + QPoint(9, 9)), theme::accent);
 }
 
 TEST_F(WinningsPanelsTest, LongResultsLeaveThePanelAsWideAsItIs) {
