@@ -6,6 +6,7 @@
 #include "core/frenchNumbers.h"
 #include "core/globals.h"
 #include "core/numbers.h"
+#include "core/text.h"
 #include "winnings/chances.h"
 #include "winnings/gameResult.h"
 #include "winnings/rapport.h"
@@ -41,10 +42,11 @@ void show(reportList &list, const std::vector<std::vector<std::string>> &lines) 
 
 frmChances::frmChances(const GameChances &chances, const std::string &unit) {
     lblCases = "Calcul exact sur " + groupedNumber(chances.cases) +
-               " cas : tous les tirages, chacun avec chacun des numéros complémentaires possibles. "
-               "« Au moins ce rang » : la meilleure grille du jeu gagne ce rang ou un autre qui "
-               "vient après lui dans la table. Grilles gagnantes et gains : en moyenne par tirage, "
-               "pour ce rang seul.";
+               " cas : tous les tirages, chacun avec chaque numéro complémentaire possible." +
+               crlf +
+               "Au moins ce rang : la meilleure grille gagne ce rang, ou un autre qui le suit "
+               "dans la table." +
+               crlf + "Grilles gagnantes et gains : moyennes par tirage, pour ce rang seul.";
     fillRanks(chances);
     fillMoney(chances, unit);
     fillGuarantees(chances);
@@ -97,13 +99,14 @@ void frmChances::fillGuarantees(const GameChances &chances) {
                            {"En moyenne", "0,0000 ", true},
                            {"Au plus", "000 trouvés", true}});
     if (!hasGuarantees) {
-        lblGuarantees = "Ce jeu porte sur " + std::to_string(chances.numbers) +
-                        " numéros différents. La table de ses garanties n'est donnée que jusqu'à " +
-                        std::to_string(mostGuaranteeNumbers) + " numéros.";
+        lblGuarantees = "Garanties : données jusqu'à " + std::to_string(mostGuaranteeNumbers) +
+                        " numéros différents." + crlf + "Ce jeu en a " +
+                        std::to_string(chances.numbers) + ".";
         return;
     }
-    lblGuarantees = "Garanties : combien la meilleure grille en trouve, quand autant des " +
-                    std::to_string(chances.numbers) + " numéros du jeu sont tirés.";
+    lblGuarantees = "Garanties : numéros trouvés par la meilleure grille," + std::string(crlf) +
+                    "quand tant des " + std::to_string(chances.numbers) +
+                    " numéros du jeu sont tirés.";
     for (const Guarantee &row : chances.guarantees)
         guarantees_.push_back(
             {std::to_string(row.drawn), std::to_string(row.least),

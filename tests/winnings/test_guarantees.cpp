@@ -76,11 +76,12 @@ TEST_F(Guarantees, ThePlainSearchFindsTheSame) {
     }
 }
 
-/// "5 numéros gagnants si 6 sur 10 en 18 grilles" and its like keep their word.
-TEST_F(Guarantees, TheCarriedSystemsKeepTheirWord) {
+/// The rows of the carried systems are what players know; not all of them keep their word.
+TEST_F(Guarantees, OfTheCarriedSystemsAreFoundByThePlainSearchToo) {
     modGame::init();
+    int checked = 0;
     for (const gameDef &system : modGame::reducedGames) {
-        if (system.nFixed() != 0 || system.nSelect() > mostGuaranteeNumbers)
+        if (system.nComb() == 0 || system.nSelect() > mostGuaranteeNumbers)
             continue;
         grids.clear();
         for (std::int32_t row = 1; row <= system.nComb(); ++row)
@@ -88,9 +89,13 @@ TEST_F(Guarantees, TheCarriedSystemsKeepTheirWord) {
         if (numbersInPlay(grids) != system.nSelect())
             continue;
         const std::vector<Guarantee> rows = guaranteesOf(grids);
-        ASSERT_EQ(rows.size(), 6U) << system.label();
         EXPECT_EQ(rows, plain()) << system.label();
+        if (system.label() == "5 numéros gagnants si 6 sur 10 en 18 grilles") {
+            EXPECT_EQ(rows.at(5).least, 5);
+        }
+        ++checked;
     }
+    EXPECT_GE(checked, 3);
 }
 
 TEST_F(Guarantees, AreNotToldBeyondTwentyNumbersNorWithoutGrids) {

@@ -31,8 +31,7 @@ int powersBelow(const ChanceBars::Bars &bars) {
 
 QString scaleText(int power) {
     const auto n = static_cast<std::uint64_t>(std::llround(std::pow(10, power)));
-    return power == 0 ? QStringLiteral("toujours")
-                      : QStringLiteral("1 sur %1").arg(toQt(groupedNumber(n)));
+    return power == 0 ? QStringLiteral("1") : QStringLiteral("1/%1").arg(toQt(groupedNumber(n)));
 }
 
 QString sentences(const ChanceBars::Bars &bars) {
@@ -53,11 +52,11 @@ ChanceBars::ChanceBars(Bars bars, QWidget *parent)
 }
 
 QSize ChanceBars::sizeHint() const {
-    return {fontMetrics().averageCharWidth() * 75, fontMetrics().height() * 17};
+    return {fontMetrics().averageCharWidth() * 75, fontMetrics().height() * 18};
 }
 
 QSize ChanceBars::minimumSizeHint() const {
-    return {fontMetrics().averageCharWidth() * 55, fontMetrics().height() * 14};
+    return {fontMetrics().averageCharWidth() * 60, fontMetrics().height() * 16};
 }
 
 QRectF ChanceBars::plot() const {

@@ -21,6 +21,13 @@
 
 namespace boulix {
 
+namespace {
+
+constexpr int allRanks = 12;  // and their sum
+constexpr int fewestRows = 6; // that a list shows on a small screen
+
+} // namespace
+
 ChancesDialog::ChancesDialog(frmChances &rules, QWidget *parent) : QDialog(parent), rules_(rules) {
     setObjectName(QStringLiteral("frmChances"));
     setWindowTitle(QString::fromUtf8(frmChances::caption));
@@ -31,7 +38,8 @@ ChancesDialog::ChancesDialog(frmChances &rules, QWidget *parent) : QDialog(paren
     QLabel *sentence = makeLabel("lblSentence", rules.lblSentence);
     sentence->setFont(rankTable::strong(font()));
     column->addWidget(sentence);
-    column->addWidget(makeList("lvwRanks", "Chances par rang", rules.lvwRanks, 12), 3);
+    ReportView *ranks = makeList("lvwRanks", "Chances par rang", rules.lvwRanks, allRanks);
+    column->addWidget(ranks, 3);
     column->addWidget(makeLabel("lblCases", rules.lblCases));
     auto *below = new QHBoxLayout;
     below->setSpacing(2 * theme::margin);
@@ -39,25 +47,25 @@ ChancesDialog::ChancesDialog(frmChances &rules, QWidget *parent) : QDialog(paren
     below->addWidget(new ChanceBars(rules.bars, this), 1);
     column->addLayout(below, 2);
     column->addLayout(makeButtons());
+    resize(minimumSizeHint() + QSize(0, (allRanks - fewestRows) * ranks->rowHeight() + 2));
 }
 
 QLabel *ChancesDialog::makeLabel(const char *name, const std::string &text) {
-    auto *label = new QLabel(toQt(text), this);
+    auto *label = new QLabel(linesToQt(text), this);
     label->setObjectName(QString::fromLatin1(name));
-    label->setWordWrap(true);
     label->setTextInteractionFlags(Qt::TextSelectableByMouse);
     return label;
 }
 
 /// A list that shows `rows` rows at once where the screen is large enough.
-QWidget *ChancesDialog::makeList(const char *name, const char *accessibleName, reportList &list,
-                                 int rows) {
+ReportView *ChancesDialog::makeList(const char *name, const char *accessibleName, reportList &list,
+                                    int rows) {
     auto *view = new ReportView(list, this);
     view->setObjectName(QString::fromLatin1(name));
     view->setAccessibleName(QString::fromUtf8(accessibleName));
     view->keepAllColumnsVisible();
     const int header = view->header()->sizeHint().height() + 2 * view->frameWidth();
-    view->setMinimumHeight(header + std::min(rows, 6) * view->rowHeight());
+    view->setMinimumHeight(header + std::min(rows, fewestRows) * view->rowHeight());
     view->setMaximumHeight(header + rows * view->rowHeight() + 2);
     return view;
 }

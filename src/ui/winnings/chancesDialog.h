@@ -11,6 +11,7 @@ class QLayout;
 namespace boulix {
 
 class frmChances;
+class ReportView;
 class reportList;
 
 /// The window of the chances of a game, until its button "Quitter" is clicked.
@@ -23,7 +24,7 @@ class ChancesDialog : public QDialog {
 
   private:
     QLabel *makeLabel(const char *name, const std::string &text);
-    QWidget *makeList(const char *name, const char *accessibleName, reportList &list, int rows);
+    ReportView *makeList(const char *name, const char *accessibleName, reportList &list, int rows);
     QLayout *makeLeftSide();
     QLayout *makeMoney();
     QLayout *makeButtons();
