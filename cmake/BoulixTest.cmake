@@ -18,14 +18,15 @@ set(BOULIX_TEST_ENVIRONMENT
     "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/cmake/lsan.supp:print_suppressions=0")
 
 # boulix_test(NAME name LABEL logic|ui|tour|printing SOURCES file... [LIBS target...]
-#             [REAL_WINDOW] [WHOLE] [TIMEOUT seconds])
+#             [REAL_WINDOW] [OWN_FOLDER] [WHOLE] [TIMEOUT seconds])
 #
 # Makes the GoogleTest executable `name`. Every test in it is a ctest entry of its own, called
 # "name.Suite.Behaviour"; with WHOLE the executable is a single entry. The labels ui, tour and
 # printing bring Qt and a main() with a QApplication on the offscreen platform. REAL_WINDOW runs
-# the executable, whole, in an X server of its own with a window manager.
+# the executable, whole, in an X server of its own with a window manager; OWN_FOLDER runs it, whole,
+# where it can write nowhere but in a folder of its own.
 function(boulix_test)
-    cmake_parse_arguments(PARSE_ARGV 0 T "REAL_WINDOW;WHOLE" "NAME;LABEL;TIMEOUT" "SOURCES;LIBS")
+    cmake_parse_arguments(PARSE_ARGV 0 T "REAL_WINDOW;OWN_FOLDER;WHOLE" "NAME;LABEL;TIMEOUT" "SOURCES;LIBS")
     if(T_UNPARSED_ARGUMENTS OR NOT T_NAME OR NOT T_SOURCES)
         message(FATAL_ERROR "boulix_test: NAME, LABEL and SOURCES expected, got: ${ARGV}")
     endif()
@@ -50,12 +51,14 @@ function(boulix_test)
         add_test(NAME ${T_NAME} COMMAND "${PROJECT_SOURCE_DIR}/scripts/with-display" $<TARGET_FILE:${T_NAME}>)
     else()
         list(APPEND environment "QT_QPA_PLATFORM=offscreen")
-        if(T_WHOLE)
+        if(T_OWN_FOLDER)
+            add_test(NAME ${T_NAME} COMMAND "${PROJECT_SOURCE_DIR}/scripts/in-own-folder" $<TARGET_FILE:${T_NAME}>)
+        elseif(T_WHOLE)
             add_test(NAME ${T_NAME} COMMAND ${T_NAME})
         endif()
     endif()
 
-    if(T_REAL_WINDOW OR T_WHOLE)
+    if(T_REAL_WINDOW OR T_OWN_FOLDER OR T_WHOLE)
         set_tests_properties(${T_NAME} PROPERTIES
             LABELS ${T_LABEL} TIMEOUT ${T_TIMEOUT} ENVIRONMENT "${environment}")
     else()
