@@ -20,10 +20,13 @@ bool afterBadFile(const Circumstances &now) {
     return now.fileWasBad;
 }
 bool oddDraws(const Circumstances &now) {
-    return now.oddDraws;
+    return now.oddDraws || now.unfinished;
 }
 bool rulesMissing(const Circumstances &now) {
     return now.rulesMissing;
+}
+bool beyondTheGraph(const Circumstances &now) {
+    return now.graphShown;
 }
 bool brokenPrinter(const Circumstances &now) {
     return now.printerBreaks;
@@ -99,6 +102,8 @@ const std::vector<Allowed> &allowed() {
         {"Boulix Erreur système N° 6", "Dépassement", "a number of 16 bits", in("frameTab_5")},
         {"Boulix Erreur système N° 6", "Dépassement", "a number of 16 bits", in("frameTab_3")},
         {"Boulix Erreur système N° 6", "Dépassement", "more than 300 digits", in("frameTab_2")},
+        {"Boulix Erreur système N° 6", "Dépassement", "a limit beyond single precision",
+         beyondTheGraph},
         {"Boulix Erreur système N° 13", "Incompatibilité", "no number", in("frmPrint")},
         {"Boulix Erreur système N° 6", "Dépassement", "a number of 16 bits", in("frmPrint")},
         {"Boulix Erreur système N° 91", "Variable objet", "a system not yet computed",

@@ -5,7 +5,7 @@
 
 #include "ui/random/vocabulary.h"
 
-#include <QAbstractItemView>
+#include <QAbstractButton>
 #include <QApplication>
 #include <QClipboard>
 #include <QLabel>
@@ -103,6 +103,16 @@ void Hand::act(const Tell &tell) {
         wheel(*window, tell);
     else
         handleWindow(*window, tell);
+}
+
+bool Hand::aButtonIsDown() const {
+    if (held_ != Qt::NoButton || QApplication::activePopupWidget())
+        return false;
+    const auto all = QApplication::allWidgets();
+    return std::any_of(all.begin(), all.end(), [](const QWidget *widget) {
+        const auto *button = qobject_cast<const QAbstractButton *>(widget);
+        return button && button->isDown() && button->isVisible();
+    });
 }
 
 void Hand::knock(QWidget &window) {
@@ -221,8 +231,9 @@ QWidget &Hand::anyControl(QWidget &window) {
         if (!inside || (hasVisibleChildren(*control) && !qobject_cast<QTabBar *>(control)))
             continue;
         all.push_back(control);
-        if (isWorthIt(*control))
-            worthIt.push_back(control);
+        if (isWorthIt(*control)) // what gives commands leads on
+            worthIt.insert(worthIt.end(), qobject_cast<QAbstractButton *>(control) ? 3 : 1,
+                           control);
     }
     if (all.empty())
         return window;

@@ -29,6 +29,10 @@ class Hand {
     /// A click anywhere in this window, whatever stands before it.
     void knock(QWidget &window);
 
+    /// Whether a button is held down on the screen: one that a key has pressed lets go, and gives
+    /// its command, a moment later.
+    bool aButtonIsDown() const;
+
     /// The window that takes input: a pop-up menu, the topmost dialog, or any other one.
     QWidget *windowForInput();
 

@@ -16,6 +16,8 @@ struct Circumstances {
     bool printerBreaks = false; ///< in the middle of a document
     bool oddDraws = false;      ///< the base is empty, or holds numbers that no draw can have
     bool rulesMissing = false;  ///< some of the eight elimination rules are gone
+    bool unfinished = false;    ///< a cancelled import left draws that no control counts
+    bool graphShown = false;    ///< the graph window is open
     std::string place;          ///< the dialog on top, or else the visible page, by its name
 };
 

@@ -7,9 +7,11 @@
 #include "eliminators/eliminators.h"
 #include "sill/appInfo.h"
 #include "sill/modMain.h"
+#include "sill/reports.h"
 #include "support/files.h"
 #include "support/locations.h"
 #include "ui/random/diary.h"
+#include "ui/support/robot.h"
 #include "ui/workbench/mainParts.h"
 #include "winnings/rapport.h"
 #include "workbench/frmMain.h"
@@ -102,7 +104,7 @@ void RandomPlayer::startProgram() {
             hand_.knock(*desktop_->mainWidget());
     };
     setDesktop(desktop_.get());
-    modMain::Main();
+    runCommand(modMain::Main);
     removeFolders();
     disk_.begin();
     if (desktop_->mainWidget())
@@ -181,7 +183,7 @@ void RandomPlayer::watch() {
 
 void RandomPlayer::turn() {
     watch();
-    if (!desktop_ || desktop_->busy())
+    if (!desktop_ || desktop_->busy() || (hand_.aButtonIsDown() && !sinceStep_.hasExpired(150)))
         return;
     try {
         if (step_ >= steps_ || failed_)
@@ -194,11 +196,11 @@ void RandomPlayer::turn() {
 }
 
 void RandomPlayer::step() {
-    if (depth_ == 0)
+    const QWidget *modal = QApplication::activeModalWidget();
+    if (depth_ == 0 && !modal && !QApplication::activePopupWidget())
         look();
     if (!complaint.empty())
         report("Qt complains: " + std::exchange(complaint, {}));
-    const QWidget *modal = QApplication::activeModalWidget();
     if (qobject_cast<const QFileDialog *>(modal))
         report("a file dialog that the script does not answer");
     if (failed_ || !hand_.windowForInput())
@@ -207,6 +209,7 @@ void RandomPlayer::step() {
     if (modal)
         ++visited_[modal->objectName().toStdString()];
     ++depth_;
+    sinceStep_.start();
     hand_.act([&](const std::string &action) { diary::note(number, action); });
     --depth_;
 }
@@ -249,6 +252,8 @@ void RandomPlayer::boxShown(const std::string &title, const std::string &text) {
     now.rulesMissing = gEliminators->Count() < eliminators::ruleCount;
     if (troubled_ && !desktop_->mainWidget())
         return;
+    now.unfinished = unfinished_;
+    now.graphShown = visibleWindow(QStringLiteral("frmGraph")) != nullptr;
     if (const QWidget *dialog = QApplication::activeModalWidget())
         now.place = dialog->objectName().toStdString();
     else if (desktop_->mainWidget())

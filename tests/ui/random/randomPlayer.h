@@ -11,6 +11,7 @@
 #include "ui/random/judge.h"
 #include "ui/random/playerDesktop.h"
 
+#include <QElapsedTimer>
 #include <QObject>
 
 #include <cstdint>
@@ -59,6 +60,7 @@ class RandomPlayer : public QObject {
     std::map<std::string, int> visited_; ///< steps taken in each dialog
     int step_ = 0;
     int steps_ = 0;
+    QElapsedTimer sinceStep_;
     int depth_ = 0;           ///< windows that wait within one another
     std::string prizes_;      ///< the default prize table, as it was at first
     bool troubled_ = false;   ///< a file of the start was spoilt
