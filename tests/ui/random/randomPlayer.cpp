@@ -243,16 +243,16 @@ void RandomPlayer::commandCutShort() {
 
 void RandomPlayer::boxShown(const std::string &title, const std::string &text) {
     diary::note(step_, "the program says: " + title + ": " + text);
+    Circumstances now;
+    now.unfinished = unfinished_; // before this box cuts something short itself
     if (title.find("Erreur") != std::string::npos)
         commandCutShort();
-    Circumstances now;
     now.fileWasBad = files_.lastAnswerWasBad();
     now.printerBreaks = printers_.breakAtPage > 0;
     now.oddDraws = drawsAreOdd();
     now.rulesMissing = gEliminators->Count() < eliminators::ruleCount;
     if (troubled_ && !desktop_->mainWidget())
         return;
-    now.unfinished = unfinished_;
     now.graphShown = visibleWindow(QStringLiteral("frmGraph")) != nullptr;
     if (const QWidget *dialog = QApplication::activeModalWidget())
         now.place = dialog->objectName().toStdString();
