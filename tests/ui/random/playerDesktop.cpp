@@ -38,9 +38,9 @@ bool PlayerDesktop::askYesNo(const std::string &text, Icon icon, const std::stri
 }
 
 std::optional<std::string> PlayerDesktop::askText(const std::string &prompt,
-                                                  const std::string &title) {
+                                                  const std::string &title, std::size_t longest) {
     boxShown(title, prompt);
-    return QtDesktop::askText(prompt, title);
+    return QtDesktop::askText(prompt, title, longest);
 }
 
 std::string PlayerDesktop::openFile(const FileQuestion &question) {
