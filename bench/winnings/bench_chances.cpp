@@ -58,7 +58,7 @@ void fill(game &grids, std::int64_t count, std::mt19937 &random) {
 double plainSeconds(const game &grids, std::mt19937 &random) {
     const auto sample = static_cast<int>(std::max<std::int64_t>(1, 2'000'000 / grids.Count()));
     std::int64_t wins = 0;
-    const double seconds = bench_support::secondsOf([&] {
+    const double seconds = bench_support::processorSecondsOf([&] {
         for (int i = 0; i < sample; ++i) {
             const auto n = sevenNumbers(random);
             wins +=
@@ -75,10 +75,10 @@ bool isRight(const GameChances &chances) {
     return sum == chances.cases && (chances.grids < allGrids || chances.best[11] == chances.cases);
 }
 
-/// Argument: the grids. `seconds` and `MB` (beside the game itself) are what counts; `times` tells
-/// how much longer the plain way would take.
+/// Argument: the grids. The time, that of the processor, and `MB` (beside the game itself) are what
+/// counts; `times` tells how much longer the plain way would take.
 void ChancesOfGrids(benchmark::State &state) {
-    bench_support::GameWorkplace place;
+    const bench_support::GameWorkplace place;
     modMaths::precomputeCnk();
     rapport prizes;
     for (std::int16_t i = 0; i < rapport::size; ++i)
@@ -92,7 +92,7 @@ void ChancesOfGrids(benchmark::State &state) {
         const std::int64_t before = bench_support::memoryInUse();
         bench_support::forgetPeak();
         frmProgress progress;
-        seconds = bench_support::secondsOf([&] {
+        seconds = bench_support::processorSecondsOf([&] {
             const auto chances = chancesOf(grids, prizes, price, progress);
             if (!chances || !isRight(*chances))
                 state.SkipWithError("the cases do not add up");
@@ -102,7 +102,6 @@ void ChancesOfGrids(benchmark::State &state) {
             static_cast<double>(bench_support::memoryPeak() - before) / (1024 * 1024);
     }
     state.counters["times"] = plain / seconds;
-    state.counters["longestGap_ms"] = place.desktop.longestGapMilliseconds();
 }
 BENCHMARK(ChancesOfGrids)
     ->UseManualTime()
