@@ -77,7 +77,9 @@ Failure failureOf(int error, const std::string &path) {
     case ENAMETOOLONG:
         return Failure::pathAccess;
     case ENOSPC:
+#ifdef EDQUOT // not every system knows quotas
     case EDQUOT:
+#endif
     case EFBIG:
         return Failure::diskFull;
     default:

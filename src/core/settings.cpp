@@ -10,6 +10,7 @@
 #include "core/text.h"
 
 #include <filesystem>
+#include <optional>
 #include <system_error>
 
 namespace boulix::settings {
@@ -23,11 +24,27 @@ std::string fileName() {
     return platform().applicationFolder() + pathSeparator + "boulix.ini";
 }
 
+/// The settings of a file whose last write failed. It may be gone or incomplete on the disk, so
+/// they are kept here until a later write brings them back.
+struct Rescued {
+    std::string fileName;
+    std::string text;
+};
+std::optional<Rescued> rescued;
+
 /// The file as it stands, empty where there is none.
 std::string contents() {
+    if (rescued && rescued->fileName == fileName())
+        return rescued->text;
     std::error_code ignored;
     const bool there = std::filesystem::exists(fileName(), ignored);
     return there ? readFile(fileName()) : "";
+}
+
+void replace(const std::string &before, const std::string &after) {
+    rescued = {fileName(), before};
+    replaceFile(fileName(), after);
+    rescued.reset();
 }
 
 } // namespace
@@ -46,14 +63,15 @@ std::string read(const std::string &section, const std::string &key,
 }
 
 void write(const std::string &section, const std::string &key, const std::string &value) {
-    replaceFile(fileName(), profileText::withValue(contents(), section, key, value));
+    const std::string text = contents();
+    replace(text, profileText::withValue(text, section, key, value));
 }
 
 void remove(const std::string &section, const std::string &key) {
     const std::string text = contents();
     const std::string shorter = profileText::withoutKey(text, section, key);
     if (shorter != text)
-        replaceFile(fileName(), shorter);
+        replace(text, shorter);
 }
 
 } // namespace boulix::settings

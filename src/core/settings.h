@@ -16,7 +16,8 @@ std::string read(const std::string &section, const std::string &key,
 
 /// Writes one value and leaves every other line of the file as it is: comments, unknown keys,
 /// blanks, line ends. Section, key and file are made when missing. A file that cannot be read or
-/// written is a run-time failure.
+/// written is a run-time failure; the other values stay as they were for this run, and a later
+/// write brings them back to the disk.
 void write(const std::string &section, const std::string &key, const std::string &value);
 
 /// Deletes the line of `key`; nothing happens where it is missing.

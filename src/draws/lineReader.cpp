@@ -3,10 +3,7 @@
 
 #include "draws/lineReader.h"
 
-#include "core/failure.h"
-
 #include <algorithm>
-#include <cerrno>
 
 namespace boulix {
 
@@ -20,18 +17,13 @@ bool endsLine(char c) {
 
 } // namespace
 
-LineReader::LineReader(const std::string &fullName)
-    : name_(fullName), file_(openForReading(fullName)), block_(blockSize) {
-    std::setvbuf(file_.get(), nullptr, _IONBF, 0); // it has a buffer of its own
-}
+LineReader::LineReader(const std::string &fullName) : file_(fullName), block_(blockSize) {}
 
 bool LineReader::eof() {
     if (at_ < filled_)
         return false;
-    filled_ = std::fread(block_.data(), 1, block_.size(), file_.get());
+    filled_ = file_.read(block_.data(), block_.size());
     at_ = 0;
-    if (std::ferror(file_.get()))
-        failForFile(errno, name_);
     return filled_ == 0;
 }
 

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "core/fileAccess.h"
+#include "core/disk.h"
 
 #include <string>
 #include <vector>
@@ -25,8 +25,7 @@ class LineReader {
     bool eof();
 
   private:
-    std::string name_;
-    FileHandle file_;
+    disk::InputFile file_;
     std::vector<char> block_;
     std::size_t filled_ = 0;
     std::size_t at_ = 0;

@@ -7,7 +7,6 @@
 
 #include <algorithm>
 #include <bit>
-#include <cerrno>
 #include <filesystem>
 #include <system_error>
 
@@ -84,10 +83,7 @@ void appendDouble(std::string &bytes, double value) {
 }
 
 SlotReader::SlotReader(const std::string &fullName, std::int64_t slotLength)
-    : name_(fullName), file_(openForReading(fullName)), slotLength_(slotLength),
-      size_(sizeOfFile(fullName)) {
-    std::setvbuf(file_.get(), nullptr, _IONBF, 0); // it has a buffer of its own
-}
+    : name_(fullName), file_(fullName), slotLength_(slotLength), size_(sizeOfFile(fullName)) {}
 
 std::string SlotReader::read(std::int64_t slot, std::size_t length) {
     const std::int64_t offset = (slot - 1) * slotLength_;
@@ -107,13 +103,9 @@ void SlotReader::fillBuffer(std::int64_t offset, std::size_t wanted) {
     const auto left = static_cast<std::size_t>(size_ - offset);
     buffer_.resize(std::min(left, std::max(bufferSize, wanted)));
     bufferStart_ = offset;
-    if (std::fseek(file_.get(), static_cast<long>(offset), SEEK_SET) != 0)
-        failForFile(errno, name_);
-    if (std::fread(buffer_.data(), 1, buffer_.size(), file_.get()) == buffer_.size())
-        return;
-    if (std::ferror(file_.get()))
-        failForFile(errno, name_);
-    failForFile(Failure::inputPastEnd, name_); // somebody cut the file while it was being read
+    file_.seek(offset);
+    if (file_.read(buffer_.data(), buffer_.size()) != buffer_.size())
+        failForFile(Failure::inputPastEnd, name_); // somebody cut the file while it was being read
 }
 
 void SlotImage::write(std::int64_t slot, std::string_view bytes) {
@@ -121,8 +113,8 @@ void SlotImage::write(std::int64_t slot, std::string_view bytes) {
     bytes_ += bytes;
 }
 
-SlotWriter::SlotWriter(const std::string &fullName, std::int64_t slotLength)
-    : file_(fullName), slotLength_(slotLength) {}
+SlotWriter::SlotWriter(const std::string &fullName, std::int64_t slotLength, std::int64_t size)
+    : file_(fullName, static_cast<std::uint64_t>(size)), slotLength_(slotLength) {}
 
 void SlotWriter::write(std::int64_t slot, std::string_view bytes) {
     const std::string gap(gapBefore(slot, slotLength_, size_), '\0');

@@ -39,7 +39,7 @@ class SlotReader {
     void fillBuffer(std::int64_t offset, std::size_t wanted);
 
     std::string name_;
-    FileHandle file_;
+    disk::InputFile file_;
     std::int64_t slotLength_;
     std::int64_t size_;
     std::int64_t bufferStart_ = 0; // where in the file the buffer begins
@@ -69,12 +69,13 @@ class SlotImage {
 /// A file of fixed slots written as it goes, for what is too long to be built in memory first.
 class SlotWriter {
   public:
-    /// Deletes the earlier file and begins the new one.
-    SlotWriter(const std::string &fullName, std::int64_t slotLength);
+    /// Deletes the earlier file and begins the new one, where the disk has room for its `size`
+    /// bytes.
+    SlotWriter(const std::string &fullName, std::int64_t slotLength, std::int64_t size);
 
     /// As `SlotImage::write`.
     void write(std::int64_t slot, std::string_view bytes);
-    /// Ends the file; without it the last bytes may be missing, and nobody is told.
+    /// Ends the file; without it the last bytes are missing, and nobody is told.
     void close() { file_.close(); }
 
   private:

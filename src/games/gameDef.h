@@ -56,7 +56,8 @@ class gameDef {
     /// Writes the definition to its file in the application folder. With `nReduced` of 0 or more
     /// it gets a new place first: a file numbered `nReduced` (or `nFixedGame` for a fixed-position
     /// game) and a key in the settings. A label above `maxLabel` bytes fails with
-    /// `Failure::badRecordLength`, a definition without a file with `Failure::objectNotSet`.
+    /// `Failure::badRecordLength`, a definition without a file with `Failure::objectNotSet`. A save
+    /// that fails leaves neither key nor place behind.
     bool save(std::int16_t nReduced, std::int16_t nFixedGame);
     /// Reads the definition from its file in the application folder. False when the header is
     /// refused; a file that is cut or that lies about its rows is a run-time failure. Both leave
@@ -78,7 +79,8 @@ class gameDef {
     static bool announcePuplets(frmProgress &progress, std::int32_t puplets);
     bool chooseGrids(frmProgress &progress, std::int32_t grids, std::int32_t puplets);
     bool addBestGrid(CoverSearch &search, frmProgress &progress);
-    void newPlace(std::int16_t nReduced, std::int16_t nFixedGame);
+    /// Writes the file; `label` is the record of the label.
+    void write(const std::string &label) const;
 
     std::string label_;
     std::int16_t nSelect_ = 0;

@@ -36,6 +36,14 @@ fileHead newHead() {
     return head;
 }
 
+/// Takes an entry of the settings back while a failure is on its way, which says enough.
+void forgetKey(const std::string &section, const std::string &key) {
+    try {
+        settings::remove(section, key);
+    } catch (const RuntimeFailure &) { // NOLINT(bugprone-empty-catch)
+    }
+}
+
 xFile &fileOf(const std::shared_ptr<xFile> &file) {
     if (!file)
         fail(Failure::objectNotSet);
@@ -85,6 +93,19 @@ gameComb readRow(SlotReader &reader, std::int64_t slot) {
     return row;
 }
 
+std::string fullNameOf(const std::string &name) {
+    return platform().applicationFolder() + pathSeparator + name;
+}
+
+/// How many bytes the file of so many rows has. The last slot is not filled out.
+std::int64_t fileSize(std::int32_t rows, std::int64_t slotLength) {
+    constexpr std::int64_t countBytes = 4;
+    constexpr std::int64_t rowBytes = 2 * (gameComb::size + 1);
+    if (rows == 0)
+        return (nCombSlot - 1) * slotLength + countBytes;
+    return (firstRowSlot + rows - 2) * slotLength + rowBytes;
+}
+
 /// The count of rows, when the file is long enough to hold them.
 std::int32_t readRowCount(SlotReader &reader, std::int64_t slotLength) {
     const std::int32_t count = readInt32(reader.read(nCombSlot, 4), 0);
@@ -100,12 +121,33 @@ std::int32_t readRowCount(SlotReader &reader, std::int64_t slotLength) {
 
 bool gameDef::save(std::int16_t nReduced, std::int16_t nFixedGame) {
     const std::string label = textRecord(label_); // too long: fails before anything is written
-    if (nReduced >= 0)
-        newPlace(nReduced, nFixedGame);
+    if (nReduced < 0) {
+        write(label);
+        return true;
+    }
+    const bool reduced = nFixed_ == 0;
+    const std::string number = std::to_string(reduced ? nReduced : nFixedGame);
+    const std::string section = reduced ? "jeux reduits" : "jeux a positions fixes";
+    const auto earlier = file_;
+    file_ = std::make_shared<xFile>();
+    file_->path(platform().applicationFolder());
+    file_->name((reduced ? "rgame-" : "fgame-") + number + ".gam");
+    try {
+        settings::write(section, "jeu" + number, file_->name());
+        write(label);
+    } catch (...) { // a key without its file would be told as an error at every start
+        file_ = earlier;
+        forgetKey(section, "jeu" + number);
+        throw;
+    }
+    return true;
+}
+
+void gameDef::write(const std::string &label) const {
     const std::string &name = fileOf(file_).name();
     const fileHead head = newHead();
 
-    SlotWriter writer(platform().applicationFolder() + pathSeparator + name, head.fileLen());
+    SlotWriter writer(fullNameOf(name), head.fileLen(), fileSize(nComb(), head.fileLen()));
     writer.write(headerSlot, head.toRecord());
     writer.write(nameSlot, textRecord(name));
     writer.write(labelSlot, label);
@@ -118,19 +160,6 @@ bool gameDef::save(std::int16_t nReduced, std::int16_t nFixedGame) {
     for (const GridRef &row : rows_)
         writer.write(slot++, rowRecord(*row));
     writer.close();
-    return true;
-}
-
-/// A new file for the definition, and the settings' key that finds it at the next start.
-void gameDef::newPlace(std::int16_t nReduced, std::int16_t nFixedGame) {
-    const bool reduced = nFixed_ == 0;
-    const std::string number = std::to_string(reduced ? nReduced : nFixedGame);
-    auto file = std::make_shared<xFile>();
-    file->path(platform().applicationFolder());
-    file->name((reduced ? "rgame-" : "fgame-") + number + ".gam");
-    file_ = file;
-    settings::write(reduced ? "jeux reduits" : "jeux a positions fixes", "jeu" + number,
-                    file->name());
 }
 
 bool gameDef::load() {
@@ -165,15 +194,14 @@ bool gameDef::exportText() const {
                                     "Exportation d'un modèle de jeu au format texte");
     if (name.empty())
         return false;
-    FileWriter file(name);
-    file.write(toWestern(label_) + crlf);
+    std::string text = toWestern(label_) + crlf;
     for (const GridRef &row : rows_) {
         std::string line;
         for (const std::int16_t n : row->numbers())
             line += (line.empty() ? "" : ";") + zeroPadded(n, 2);
-        file.write(line + crlf);
+        text += line + crlf;
     }
-    file.close();
+    replaceFile(name, text);
     return true;
 }
 

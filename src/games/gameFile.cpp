@@ -22,8 +22,8 @@ constexpr auto fileType = static_cast<std::int32_t>(FileType::gameSet);
 
 constexpr std::size_t numberBytes = std::size_t{2} * gameComb::size;
 constexpr std::size_t gridBytes = numberBytes + 2; // and the sum
-/// How many slots are written together.
-constexpr std::size_t slotsPerBlock = 512;
+/// How many slots are written together: a megabyte.
+constexpr std::size_t slotsPerBlock = 8192;
 
 void putInt16(std::string &bytes, std::size_t offset, std::int16_t value) {
     bytes[offset] = static_cast<char>(value & 0xFF);
@@ -38,24 +38,49 @@ void putGrid(std::string &bytes, std::size_t offset, const gameComb &grid) {
     putInt16(bytes, offset, grid.sum());
 }
 
-/// Writes the grids from slot 2 on. The last one is not filled out to its slot.
-void writeGrids(const game &grids, SlotWriter &writer, std::size_t slotLength) {
-    std::string block(slotsPerBlock * slotLength, '\0');
-    std::int64_t blockStart = 2;
+/// The progress window over a save. It cannot be cancelled: the earlier file is gone by then.
+class SavingShown {
+  public:
+    explicit SavingShown(std::int64_t count) {
+        window_->cancelVisible = false;
+        window_->ProgressBar.range(1, modMaths::maxOf<std::int64_t>(count, 2));
+    }
+    void moveTo(std::int64_t grid) {
+        window_->ProgressBar.value = grid;
+        desktop().runEvents();
+    }
+
+  private:
+    ProgressShown window_{"Sauvegarde d'un jeu", "Sauvegarde du jeu en cours..."};
+};
+
+/// Writes the grids from slot 2 on, by way of `block`. The last one is not filled out to its slot.
+void writeGrids(const game &grids, SlotWriter &writer, std::string &block) {
+    const std::size_t slotLength = block.size() / slotsPerBlock;
+    SavingShown progress(grids.Count());
+    std::int64_t written = 0;
     std::size_t slots = 0;
-    const auto writeBlock = [&] {
-        const std::size_t length = (slots - 1) * slotLength + gridBytes;
-        writer.write(blockStart, std::string_view(block).substr(0, length));
-        blockStart += static_cast<std::int64_t>(slots);
+    const auto writeBlock = [&](std::size_t length) {
+        writer.write(written + 2, std::string_view(block).substr(0, length));
+        written += static_cast<std::int64_t>(slots);
         slots = 0;
+        progress.moveTo(written);
     };
     for (const gameComb &grid : grids) {
+        if (slots == slotsPerBlock)
+            writeBlock(slots * slotLength);
         putGrid(block, slots * slotLength, grid);
-        if (++slots == slotsPerBlock)
-            writeBlock();
+        ++slots;
     }
     if (slots > 0)
-        writeBlock();
+        writeBlock((slots - 1) * slotLength + gridBytes);
+}
+
+/// How many bytes the file of so many grids has.
+std::int64_t fileSize(std::int32_t count, std::int64_t slotLength) {
+    constexpr auto headBytes = static_cast<std::int64_t>(fileHead::recordSize);
+    constexpr auto lastBytes = static_cast<std::int64_t>(gridBytes);
+    return count == 0 ? headBytes : count * slotLength + lastBytes;
 }
 
 /// The numbers of the grid in a slot. The slot behind a last one that was filled out does not
@@ -96,9 +121,11 @@ void game::save() const {
     if (file.fullName().empty() || !modFileSelector::mayReplace(file, gAppInfo->name()))
         return;
     file.head().initialize(fileType);
-    SlotWriter writer(file.fullName(), file.head().fileLen());
+    const std::int64_t slotLength = file.head().fileLen();
+    std::string block(slotsPerBlock * static_cast<std::size_t>(slotLength), '\0');
+    SlotWriter writer(file.fullName(), slotLength, fileSize(Count(), slotLength));
     writer.write(1, file.head().toRecord());
-    writeGrids(*this, writer, static_cast<std::size_t>(file.head().fileLen()));
+    writeGrids(*this, writer, block);
     writer.close();
 }
 

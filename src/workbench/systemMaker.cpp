@@ -75,11 +75,11 @@ void systemMaker::compute() {
     createNWin_ = narrow16(nWin.upDownControl.value());
     createNFixed_ = narrow16(nFixed.upDownControl.value());
     createNChosen_ = narrow16(nChoosen.upDownControl.value());
-    newGameDef_ = std::make_shared<gameDef>();
-    if (!newGameDef_->compute(createNFixed_, createNWin_, createNChosen_)) {
-        newGameDef_.reset(); // half a system guarantees nothing
+    newGameDef_.reset(); // half a system guarantees nothing
+    const auto made = std::make_shared<gameDef>();
+    if (!made->compute(createNFixed_, createNWin_, createNChosen_))
         return;
-    }
+    newGameDef_ = made;
     game rows;
     for (std::int32_t i = 1; i <= newGameDef_->nComb(); ++i)
         rows.Add(newGameDef_->sharedRow(i));

@@ -4,6 +4,7 @@
 #include "core/fileAccess.h"
 
 #include "support/boulixTest.h"
+#include "support/saveTexts.h"
 #include "support/smallDisk.h"
 
 #include <filesystem>
@@ -83,21 +84,78 @@ TEST_F(FileAccess, ADeviceIsWrittenWhereItIsAndItsRefusalSeen) {
     const auto failure = failureOf([] { replaceFile("/dev/full", "x"); });
     ASSERT_TRUE(failure);
     EXPECT_EQ(failure->number(), 61);
-    EXPECT_EQ(failure->description(), "Disque plein : /dev/full");
+    EXPECT_EQ(failure->description(),
+              "Disque plein : /dev/full" + saveTexts::brokenOff + saveTexts::freeRoom);
     EXPECT_TRUE(std::filesystem::is_character_file("/dev/full"));
 }
 
-TEST_F(FileAccess, AFullDiskIsSeenByALongWriteAndByAShortOneAtTheEnd) {
-    SmallDisk disk(4096);
+/// What the replacement of `name` by `size` bytes ends in: the description of its failure.
+std::string replaced(const std::string &name, std::size_t size, char with) {
+    const auto failure = failureOf([&] { replaceFile(name, std::string(size, with)); });
+    return failure ? failure->description() : "";
+}
+
+std::string noRoom(const std::string &name, const std::string &missing) {
+    return "Disque plein : " + name + "\r\nIl manque " + missing + " sur le disque." +
+           saveTexts::notBegun + saveTexts::freeRoom;
+}
+
+TEST_F(FileAccess, WhatDoesNotFitOnTheDiskIsNotBegunAndTheOldFileStays) {
+    SmallDisk disk(8192);
     if (!disk.mounted())
         GTEST_SKIP() << SmallDisk::whyNot;
-    replaceFile(disk.file("a"), std::string(4096, 'x')); // fits
-    EXPECT_EQ(failureNumber([&disk] { replaceFile(disk.file("b"), "x"); }), 61);
-    EXPECT_EQ(failureNumber([&disk] { replaceFile(disk.file("b"), std::string(1 << 20, 'x')); }),
-              61);
+    const std::string a = disk.file("a");
+    EXPECT_EQ(replaced(a, 4096, 'x'), "");
+    EXPECT_EQ(replaced(disk.file("b"), 4097, 'x'), noRoom(disk.file("b"), "4 Ko"));
+    EXPECT_FALSE(fileExists(disk.file("b")));
+    EXPECT_EQ(replaced(a, 8193, 'y'), noRoom(a, "4 Ko"));
+    EXPECT_EQ(replaced(a, 20'000'000, 'y'), noRoom(a, "20 Mo"));
+    EXPECT_EQ(readBytes(a), std::string(4096, 'x'));
+}
+
+TEST_F(FileAccess, TheRoomThatTheOldFileGivesBackCountsToItsLastBlock) {
+    SmallDisk disk(8192);
+    if (!disk.mounted())
+        GTEST_SKIP() << SmallDisk::whyNot;
+    const std::string a = disk.file("a");
+    EXPECT_EQ(replaced(disk.file("b"), 1, 'b'), ""); // takes a whole block of 4096
+    EXPECT_EQ(replaced(a, 10, 'x'), "");
+    EXPECT_EQ(replaced(a, 4096, 'y'), "");
+    EXPECT_EQ(readBytes(a), std::string(4096, 'y'));
+    EXPECT_EQ(replaced(a, 4097, 'z'), noRoom(a, "4 Ko"));
+    EXPECT_EQ(readBytes(a), std::string(4096, 'y'));
+}
+
+TEST_F(FileAccess, AFileOfTwoNamesOrBehindALinkGivesNoRoomBack) {
+    SmallDisk disk(8192);
+    if (!disk.mounted())
+        GTEST_SKIP() << SmallDisk::whyNot;
+    EXPECT_EQ(replaced(disk.file("a"), 4096, 'x'), "");
+    std::filesystem::create_symlink(disk.file("a"), disk.file("lien"));
+    EXPECT_EQ(replaced(disk.file("lien"), 4097, 'y'), noRoom(disk.file("lien"), "4 Ko"));
+    std::filesystem::create_hard_link(disk.file("a"), disk.file("b"));
+    EXPECT_EQ(replaced(disk.file("b"), 4097, 'y'), noRoom(disk.file("b"), "4 Ko"));
     EXPECT_EQ(readBytes(disk.file("a")), std::string(4096, 'x'));
-    replaceFile(disk.file("a"), std::string(4096, 'y')); // its own room is given back first
-    EXPECT_EQ(readBytes(disk.file("a")), std::string(4096, 'y'));
+    EXPECT_EQ(replaced(disk.file("b"), 4096, 'y'), "");
+    EXPECT_EQ(readBytes(disk.file("a")), std::string(4096, 'x'));
+    EXPECT_EQ(readBytes(disk.file("b")), std::string(4096, 'y'));
+}
+
+TEST_F(FileAccess, AWriterThatPromisedTooLittleMeetsTheFullDiskAndSaysWhatHasBecomeOfTheFile) {
+    SmallDisk disk(8192);
+    if (!disk.mounted())
+        GTEST_SKIP() << SmallDisk::whyNot;
+    const std::string name = disk.file("a");
+    EXPECT_EQ(replaced(name, 10, 'x'), "");
+    const auto failure = failureOf([&] {
+        FileWriter writer(name, 1);
+        writer.write(std::string(1 << 20, 'y'));
+        writer.close();
+    });
+    ASSERT_TRUE(failure);
+    EXPECT_EQ(failure->number(), 61);
+    EXPECT_EQ(failure->description(),
+              "Disque plein : " + name + saveTexts::brokenOff + saveTexts::freeRoom);
 }
 
 TEST_F(FileAccess, OnAReadOnlyDiskNothingIsReplacedOrDeletedAndAllIsRead) {
@@ -140,10 +198,23 @@ TEST_F(FileAccess, WithoutTheRightsAFileIsNotReadAndAFolderNotWritten) {
     EXPECT_FALSE(fileExists(file("b")));
 }
 
+TEST_F(FileAccess, SmallAndLargePiecesKeepTheirOrder) {
+    constexpr std::size_t mega = std::size_t{1} << 20U;
+    for (const std::size_t large : {mega / 2 - 1, mega / 2, mega - 1, mega, mega + 1, 3 * mega}) {
+        const std::string expected = "tete" + std::string(large, 'x') + "fin";
+        FileWriter writer(file("a"), expected.size());
+        writer.write("tete");
+        writer.write(std::string(large, 'x'));
+        writer.write("fin");
+        writer.close();
+        EXPECT_TRUE(readBytes(file("a")) == expected) << large;
+    }
+}
+
 TEST_F(FileAccess, AWriterPutsOutMoreThanItsBufferHolds) {
-    FileWriter writer(file("a"));
+    FileWriter writer(file("a"), 5'000'000);
     std::string expected;
-    for (int i = 0; i < 10'000; ++i) {
+    for (int i = 0; i < 300'000; ++i) {
         const std::string line = "ligne " + std::to_string(i) + "\r\n";
         writer.write(line);
         expected += line;

@@ -73,7 +73,7 @@ TEST_F(SlotFile, ASlotBeginsAtAMultipleOfItsLengthAndTheLastOneIsNotFilledOut) {
 
 TEST_F(SlotFile, WrittenAsItGoesIsTheSameAsBuiltInMemory) {
     SlotImage image(128);
-    SlotWriter writer(name(), 128);
+    SlotWriter writer(name(), 128, 1999 * 128 + 9);
     for (std::int64_t slot : {1, 2, 3, 7, 2000}) {
         const std::string bytes = "slot " + std::to_string(slot);
         image.write(slot, bytes);
@@ -86,7 +86,7 @@ TEST_F(SlotFile, WrittenAsItGoesIsTheSameAsBuiltInMemory) {
 
 TEST_F(SlotFile, AWriterLeavesNothingOfTheEarlierFile) {
     writeBytes(name(), std::string(1000, 'x'));
-    SlotWriter writer(name(), 8);
+    SlotWriter writer(name(), 8, 1);
     writer.write(1, "a");
     writer.close();
     EXPECT_EQ(readBytes(name()), "a");
@@ -189,7 +189,7 @@ TEST_F(SlotFile, AFullDiskIsSeenByAWriter) {
         GTEST_SKIP() << SmallDisk::whyNot;
     const std::int64_t slots = 10'000;
     EXPECT_EQ(failureNumber([&disk] {
-                  SlotWriter writer(disk.file("a"), 128);
+                  SlotWriter writer(disk.file("a"), 128, 1); // it lies about its size
                   for (std::int64_t slot = 1; slot <= slots; ++slot)
                       writer.write(slot, "x");
                   writer.close();

@@ -124,6 +124,7 @@ TEST_F(GameFileTest, AnExistingFileIsReplacedOnlyOnYes) {
 
 TEST_F(GameFileTest, TheProgressWindowFollowsTheTens) {
     savedBytes(25);
+    desktop.progressRuns.clear();
     loadFrom("jeu.lst");
     ASSERT_EQ(desktop.progressRuns.size(), 1U);
     const auto &run = desktop.progressRuns[0];
@@ -135,6 +136,38 @@ TEST_F(GameFileTest, TheProgressWindowFollowsTheTens) {
     EXPECT_EQ(run.steps[0].ProgressBar.value, 1);
     EXPECT_FALSE(run.steps[0].ProgressBar2.visible);
     EXPECT_EQ(run.last.ProgressBar.value, 20);
+}
+
+TEST_F(GameFileTest, TheProgressWindowFollowsASaveThatNobodyCanCancel) {
+    constexpr int block = 8192; // grids that are written together
+    fill(Grids(2 * block + 1, {1, 2, 3, 4, 5, 6}));
+    saveAs("jeu.lst");
+    ASSERT_EQ(desktop.progressRuns.size(), 1U);
+    const auto &run = desktop.progressRuns[0];
+    ASSERT_EQ(run.turns, 3);
+    EXPECT_EQ(run.steps[0].caption, "Sauvegarde d'un jeu");
+    EXPECT_EQ(run.steps[0].lblInfo, "Sauvegarde du jeu en cours...");
+    EXPECT_EQ(run.steps[0].ProgressBar.min, 1);
+    EXPECT_EQ(run.steps[0].ProgressBar.max, 2 * block + 1);
+    EXPECT_FALSE(run.steps[0].ProgressBar2.visible);
+    EXPECT_FALSE(run.steps[0].cancelVisible);
+    EXPECT_EQ(run.steps[0].ProgressBar.value, block);
+    EXPECT_EQ(run.steps[1].ProgressBar.value, 2 * block);
+    EXPECT_EQ(run.steps[2].ProgressBar.value, 2 * block + 1);
+    EXPECT_TRUE(run.unloaded);
+    EXPECT_EQ(readBytes(file("jeu.lst")).size(), 128U * (2 * block + 1) + 14);
+}
+
+TEST_F(GameFileTest, AGameOfWholeBlocksOrOneGridMoreOrLessIsWrittenToItsLastByte) {
+    for (const int count : {8191, 8192, 8193}) {
+        grids.clear();
+        fillMany(count);
+        saveAs("jeu" + std::to_string(count) + ".lst");
+        const Grids before = contents();
+        grids.clear();
+        loadFrom("jeu" + std::to_string(count) + ".lst");
+        EXPECT_EQ(contents(), before) << count;
+    }
 }
 
 TEST_F(GameFileTest, CancellingALoadEmptiesTheGameWithWhatItHeldBefore) {

@@ -38,9 +38,11 @@ class GamesOnASmallDisk : public GameTest {
 TEST_F(GamesOnASmallDisk, AGameThatFitsIsSavedAndALargerOneIsReported) {
     fillMany(63);
     EXPECT_EQ(saveFailure(), 0);
+    const std::string before = readBytes(disk.file("jeu.lst"));
     fillMany(1);
     EXPECT_EQ(saveFailure(true), 61);
     EXPECT_EQ(grids.Count(), 64);
+    EXPECT_EQ(readBytes(disk.file("jeu.lst")), before);
 }
 
 TEST_F(GamesOnASmallDisk, AReadOnlyDiskIsReadAndKeepsItsFile) {

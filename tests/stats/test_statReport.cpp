@@ -13,6 +13,7 @@
 #include "stats/statsTest.h"
 #include "support/files.h"
 #include "support/recordingPrinters.h"
+#include "support/saveTexts.h"
 #include "support/smallDisk.h"
 #include "support/withoutRights.h"
 
@@ -320,7 +321,8 @@ TEST_F(StatReport, AFolderWithoutPermissionIsAFailureThatNamesTheFile) {
     std::filesystem::permissions(folder(), std::filesystem::perms(0755));
     ASSERT_TRUE(failure);
     EXPECT_EQ(failure->number(), 70);
-    EXPECT_EQ(failure->description(), "Permission refusée : " + name());
+    EXPECT_EQ(failure->description(),
+              "Permission refusée : " + name() + saveTexts::notBegun + saveTexts::otherFolder);
     EXPECT_FALSE(fileExists(name()));
 }
 

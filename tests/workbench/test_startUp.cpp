@@ -18,6 +18,7 @@
 #include "stats/graphSettings.h"
 #include "support/boulixTest.h"
 #include "support/locations.h"
+#include "support/saveTexts.h"
 #include "support/withoutRights.h"
 #include "winnings/rapport.h"
 #include "workbench/frmMain.h"
@@ -196,8 +197,9 @@ TEST_F(StartUp, AFailureWhileTheBaseIsLoadedClosesTheLogAndShowsNoMainWindow) {
     start("-debug");
     ASSERT_EQ(desktop.messages.size(), 1U);
     EXPECT_EQ(desktop.messages[0],
-              (ShownBox{"Erreur d'accès au chemin/fichier : " + file("tirages.dbl"), Icon::critical,
-                        "Boulix Erreur système N° 75"}));
+              (ShownBox{"Erreur d'accès au chemin/fichier : " + file("tirages.dbl") +
+                            saveTexts::notBegun + saveTexts::lookAtDisk,
+                        Icon::critical, "Boulix Erreur système N° 75"}));
     EXPECT_FALSE(modMain::gLogFile.is_open());
     EXPECT_TRUE(modMain::gDebug);
     EXPECT_FALSE(desktop.mainWindowShown);
