@@ -19,6 +19,10 @@ class QuietDesktop : public Desktop {
 
     void showMessage(const std::string &, Icon, const std::string &) override {}
     bool askYesNo(const std::string &, Icon, const std::string &) override { return false; }
+    std::size_t askChoice(const std::string &, Icon, const std::string &,
+                          const std::vector<std::string> &answers) override {
+        return answers.size() - 1;
+    }
     std::optional<std::string> askText(const std::string &, const std::string &,
                                        std::size_t) override {
         return std::nullopt;

@@ -51,14 +51,16 @@ std::string sizeText(std::uint64_t bytes) {
     return std::to_string((kilos + kilo - 1) / kilo) + " Mo";
 }
 
-const char *adviceOn(const RuntimeFailure &failure) {
+std::string adviceOn(const RuntimeFailure &failure) {
     switch (static_cast<Failure>(failure.number())) {
     case Failure::diskFull:
-        return "Libérez de la place sur le disque, puis recommencez.";
+        return " Libérez de la place sur le disque, puis recommencez.";
     case Failure::permissionDenied:
-        return "Il faut un dossier où vous avez le droit d'écrire.";
+        if (failure.description().find(crlf) != std::string::npos) // it says so itself
+            return "";
+        return " Il faut un dossier où vous avez le droit d'écrire.";
     default:
-        return "Vérifiez le disque et le nom du fichier, puis recommencez.";
+        return " Vérifiez le disque et le nom du fichier, puis recommencez.";
     }
 }
 
@@ -70,8 +72,8 @@ void step(bool fileTouched, const std::function<void()> &action) {
     } catch (const RuntimeFailure &failure) {
         const char *state =
             fileTouched ? "Le fichier sur le disque est effacé ou incomplet, mais rien n'est perdu "
-                          "en mémoire tant que le programme reste ouvert. "
-                        : "Rien n'a été écrit ni effacé, et rien n'est perdu en mémoire. ";
+                          "en mémoire tant que le programme reste ouvert."
+                        : "Rien n'a été écrit ni effacé, et rien n'est perdu en mémoire.";
         throw withLine(failure, std::string(state) + adviceOn(failure));
     }
 }

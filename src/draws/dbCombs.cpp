@@ -3,6 +3,7 @@
 
 #include "draws/dbCombs.h"
 
+#include "core/failure.h"
 #include "core/fileAccess.h"
 #include "draws/baseNotes.h"
 #include "files/slotFile.h"
@@ -59,6 +60,7 @@ std::int32_t drawCount(std::int64_t size) {
 dbComb &dbCombs::Add(Date day, std::int16_t id, const lotoComb &comb, bool doSave,
                      const std::string & /*key*/) {
     changing().emplace_back(day, id, comb);
+    saved_ = false;
     if (doSave)
         save();
     return draws_.back();
@@ -78,6 +80,7 @@ void dbCombs::Remove(std::int64_t index) {
 
 void dbCombs::load() {
     clear();
+    saved_ = true; // from here on nothing is in memory but what was in the file
     dbFile_.head().initialize(fileType);
     if (!dbFile_.exist()) {
         replaceFile(dbFile_.fullName(), dbFile_.head().toRecord());
@@ -93,12 +96,14 @@ void dbCombs::load() {
     for (std::int32_t k = 1; k <= count; ++k) {
         desktop().runEvents(); // the splash window stays alive
         const std::string record = reader.read(std::int64_t{k} + 1, recordLength);
-        Add(readDouble(record, 0), readInt16(record, 8), combFromRecord(record), false, "");
+        changing().emplace_back(readDouble(record, 0), readInt16(record, 8),
+                                combFromRecord(record));
     }
     tellCutBase(dbFile_, reader.fileSize(), count);
 }
 
 void dbCombs::save() {
+    saved_ = false;
     dbFile_.head().initialize(fileType);
     SlotImage image(slotLength);
     image.reserve(std::int64_t{Count()} + 1);
@@ -106,7 +111,18 @@ void dbCombs::save() {
     std::int64_t slot = 1;
     for (const dbComb &draw : draws_)
         image.write(++slot, toRecord(draw));
-    replaceFile(dbFile_.fullName(), image.bytes());
+    writeImage(image.bytes());
+    saved_ = true;
+}
+
+/// Writes the file. There is no command that only saves, so a failure tells when it is tried again.
+void dbCombs::writeImage(const std::string &image) const {
+    try {
+        replaceFile(dbFile_.fullName(), image);
+    } catch (const RuntimeFailure &failure) {
+        throw withLine(failure, "La base sera enregistrée avec la prochaine modification ; sinon, le programme "
+                 "proposera de le faire avant de quitter.");
+    }
 }
 
 } // namespace boulix

@@ -51,6 +51,12 @@ class dbCombs {
 
     /// Lets the user enter a new draw; it goes to the end and the base is saved.
     void AddNewDBComb();
+    /// Whether the file holds all that this program has changed in memory. False after a save that
+    /// failed and after an import that was broken off.
+    bool isSaved() const { return saved_; }
+    /// Writes the file, as every change of a draw does by itself.
+    void saveAgain() { save(); }
+
     /// Removes the draw at `index` and saves.
     void Remove(std::int64_t index);
     /// Lets the user change the draw at `index`, then sorts and saves, also after a cancel.
@@ -88,6 +94,7 @@ class dbCombs {
     }
     void quickSort(std::int64_t first, std::int64_t last);
     void save();
+    void writeImage(const std::string &image) const;
     /// Appends the draws of the operator's file; false when it was refused or cancelled.
     bool readImport(const std::string &fileName, frmProgress &progress);
     void restoreOrder();
@@ -98,6 +105,7 @@ class dbCombs {
     std::vector<dbComb> draws_;
     mutable std::optional<drawIndex> index_;
     xFile dbFile_;
+    bool saved_ = true;
 };
 
 } // namespace boulix

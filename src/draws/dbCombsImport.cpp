@@ -127,7 +127,7 @@ void dbCombs::restoreOrder() {
         return;
     changing();
     std::stable_sort(draws_.begin(), draws_.end(), isEarlier);
-    modMain::logLine("dbCombs.ImportFdjFile: ordre rétabli après le tri");
+    modMain::logNote("dbCombs.ImportFdjFile: ordre rétabli après le tri");
 }
 
 // Each step compares the last draw that stays with the next one. The draws that stay move to the

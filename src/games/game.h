@@ -69,6 +69,8 @@ class game {
     /// Puts a grid at the end, under `key` when that is not empty, and gives it back. Without
     /// `item` it is a new grid of zeros; otherwise it is the caller's grid itself, not a copy.
     gameComb &Add(const GridRef &item = {}, const std::string &key = {});
+    /// Makes room for so many grids more: adding grids that are there already cannot fail then.
+    void reserve(std::size_t more);
     /// The grid at a position from 1, or under a key. A position that does not exist fails with
     /// `Failure::subscriptOutOfRange`, an unknown key with `Failure::invalidCall`.
     gameComb &Item(std::int64_t index) { return *grids_[place(index)]; }
@@ -124,8 +126,6 @@ class game {
     std::size_t place(std::int64_t index) const {
         return static_cast<std::size_t>(checkedIndex(index, 1, Count()) - 1);
     }
-    /// Makes room for so many grids more.
-    void reserve(std::size_t more);
     void sweep(const std::vector<std::uint8_t> &flags, progressBar &bar);
 
     std::vector<GridRef> grids_;

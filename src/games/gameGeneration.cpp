@@ -127,6 +127,25 @@ class SeenCodes {
     std::vector<bool> seen_ = std::vector<bool>(lastCode + 1);
 };
 
+/// Takes back the grids that a computation has added where it does not come to its end: half of
+/// what was asked for is nothing to play.
+class AllOrNone {
+  public:
+    explicit AllOrNone(std::vector<GridRef> &grids) : grids_(grids), before_(grids.size()) {}
+    ~AllOrNone() {
+        if (!ended_)
+            grids_.resize(before_);
+    }
+    AllOrNone(const AllOrNone &) = delete;
+    AllOrNone &operator=(const AllOrNone &) = delete;
+    void ended() { ended_ = true; }
+
+  private:
+    std::vector<GridRef> &grids_;
+    std::size_t before_;
+    bool ended_ = false;
+};
+
 void reportNoCount() {
     reportNumbered(3102, "Le nombre de grilles à calculer n'a pas été précisé!");
 }
@@ -148,6 +167,7 @@ bool game::ComputeDefinedGame(const gameDef &def, const selector &sel) {
                                  "Le calcul est impossible!");
         return false;
     }
+    AllOrNone made(grids_);
     for (std::int32_t i = 1; i <= def.nComb(); ++i) {
         const boulix::gameComb &row = *def.gameComb(i);
         gameComb grid;
@@ -159,6 +179,7 @@ bool game::ComputeDefinedGame(const gameDef &def, const selector &sel) {
         // this orders an older grid and leaves the new one as it is.
         Item(i).sort();
     }
+    made.ended();
     return true;
 }
 
@@ -167,6 +188,7 @@ bool game::ComputeManualGame(const selector &sel) {
     auto left = static_cast<std::uint32_t>(modMaths::cnkTable[6][selection.size()]);
     ProgressShown progress("Calcul de jeu Manuel", "Calcul en cours en cours...");
     progress->ProgressBar.range(1, modMaths::maxOf<std::int64_t>(left + 1, 2));
+    AllOrNone grids(grids_);
     reserve(left);
 
     std::optional<Sixes> sixes;
@@ -185,11 +207,13 @@ bool game::ComputeManualGame(const selector &sel) {
         desktop().runEvents();
         if (progress->cancelled()) {
             progress.unload();
+            grids.ended();
             clear();
             return false;
         }
         progress->ProgressBar.value = Count();
     }
+    grids.ended();
     progress.unload();
     desktop().runEvents();
     return true;
@@ -208,6 +232,7 @@ bool game::ComputeRandomGame(std::int32_t count, const selector &sel) {
     platform().seedRandomFromClock();
     if (Count() >= count)
         return true;
+    AllOrNone made(grids_);
     reserve(static_cast<std::size_t>(count - Count()));
     const Numbers selection = selectedNumbers(sel);
     SeenCodes seen;
@@ -225,6 +250,7 @@ bool game::ComputeRandomGame(std::int32_t count, const selector &sel) {
                 seen.insert(modMaths::combRank(old, 6));
         have = Count();
     }
+    made.ended();
     return true;
 }
 

@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace boulix {
 
@@ -50,6 +51,10 @@ class Desktop {
     virtual void showMessage(const std::string &text, Icon icon, const std::string &title) = 0;
     /// A box with yes and no; true for yes.
     virtual bool askYesNo(const std::string &text, Icon icon, const std::string &title) = 0;
+    /// A box with a button for each of `answers`; the index of the one chosen. The last one is
+    /// what Enter, Escape and the close box of the window choose.
+    virtual std::size_t askChoice(const std::string &text, Icon icon, const std::string &title,
+                                  const std::vector<std::string> &answers) = 0;
     /// A box with one line to fill in, which takes no more than `maxLength` characters; nothing
     /// when it was cancelled.
     virtual std::optional<std::string> askText(const std::string &prompt, const std::string &title,

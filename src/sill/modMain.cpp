@@ -65,6 +65,11 @@ void logLine(const std::string &text) {
         giveUpLog(errno);
 }
 
+void logNote(const std::string &text) {
+    if (gLogFile.is_open())
+        logLine(text);
+}
+
 void closeLog() {
     if (!gLogFile.is_open()) // a handler has closed it
         return;

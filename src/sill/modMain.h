@@ -32,6 +32,8 @@ void openLog();
 /// `Failure::badFileName`. A line that cannot be written is shown as a failure once; the program
 /// goes on without its log.
 void logLine(const std::string &text);
+/// Writes a line that nobody counts on: where the log was closed by then it is dropped.
+void logNote(const std::string &text);
 /// Closes the log if it is open. Lines that cannot be written then are shown as a failure.
 void closeLog();
 

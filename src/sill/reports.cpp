@@ -19,6 +19,16 @@ void handleUnexpected(const RuntimeFailure &failure) {
     showUnexpected(failure);
 }
 
+void underHandler(const std::function<void()> &routine) {
+    try {
+        routine();
+    } catch (const RuntimeFailure &failure) {
+        handleUnexpected(failure);
+    } catch (const std::bad_alloc &) {
+        handleUnexpected(RuntimeFailure(Failure::outOfMemory));
+    }
+}
+
 void showUnexpected(const RuntimeFailure &failure) {
     desktop().showMessage(failure.description(), Icon::critical,
                           "Boulix Erreur système N° " + std::to_string(failure.number()));

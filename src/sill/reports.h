@@ -18,6 +18,10 @@ void reportNumbered(int number, const std::string &text, Icon icon = Icon::infor
 /// The handler of the main routines: closes the log if there is one, then shows the failure.
 void handleUnexpected(const RuntimeFailure &failure);
 
+/// Runs one of the main routines under that handler. A failure ends the routine, and so does a
+/// want of memory, which is a failure like any other.
+void underHandler(const std::function<void()> &routine);
+
 /// Shows a failure in the same form and leaves the log alone.
 void showUnexpected(const RuntimeFailure &failure);
 

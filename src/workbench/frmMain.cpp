@@ -5,6 +5,7 @@
 
 #include "core/globals.h"
 #include "core/platform.h"
+#include "core/text.h"
 #include "draws/dbCombs.h"
 #include "files/slotFile.h"
 #include "printing/printerSystem.h"
@@ -14,23 +15,11 @@
 #include "sill/modMain.h"
 #include "sill/reports.h"
 
-#include <functional>
-
 namespace boulix {
 
 using modMain::logLine;
 
 namespace {
-
-/// Runs one of the main routines under the handler that closes the log, shows the failure and
-/// leaves the routine.
-void underHandler(const std::function<void()> &routine) {
-    try {
-        routine();
-    } catch (const RuntimeFailure &failure) {
-        handleUnexpected(failure);
-    }
-}
 
 std::vector<std::int16_t> markedNumbers(const NumberBoard &board) {
     std::vector<std::int16_t> numbers;
@@ -143,7 +132,7 @@ void frmMain::showHelp() {
 bool frmMain::queryClose() {
     const std::string &name = gAppInfo->name();
     const std::string question = "Etes-vous sûr de vouloir quitter " + name + "?";
-    if (!desktop().askYesNo(question, Icon::question, name))
+    if (!desktop().askYesNo(question, Icon::question, name) || !mayLeaveBase())
         return false;
     if (!printerSystem().finishDocuments())
         return false; // a document would be lost
@@ -151,6 +140,28 @@ bool frmMain::queryClose() {
     if (modMain::gDebug)
         modMain::closeLog();
     return true;
+}
+
+/// The draws of a save that failed, or of an import that was broken off, are in memory alone: they
+/// do not go without a word.
+bool frmMain::mayLeaveBase() {
+    if (gDbCombs->isSaved())
+        return true;
+    enum Answer : std::size_t { saveAndQuit, quitWithoutSaving, stay };
+    const std::string question =
+        std::string("La base de données en mémoire n'est pas celle du disque : ses dernières "
+                    "modifications ne sont pas enregistrées.") +
+        crlf + "Si vous quittez sans enregistrer, elles seront perdues.";
+    switch (desktop().askChoice(
+        question, Icon::question, gAppInfo->name(),
+        {"Enregistrer et quitter", "Quitter sans enregistrer", "Ne pas quitter"})) {
+    case saveAndQuit:
+        return runCommand([] { gDbCombs->saveAgain(); });
+    case quitWithoutSaving:
+        return true;
+    default:
+        return false;
+    }
 }
 
 void frmMain::refresh() const {

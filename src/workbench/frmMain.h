@@ -61,8 +61,9 @@ class frmMain : public windowFrame {
     void clickTab(int position);
     /// The entry `mnuHelp`.
     void showHelp();
-    /// The window is about to close: asks the user. True when it may; the other windows are
-    /// gone then and the log is closed.
+    /// The window is about to close: asks the user, and asks again where the base in memory has
+    /// draws that its file lacks. True when it may; the other windows are gone then and the log is
+    /// closed.
     bool queryClose();
 
     void frmUpdateDBList() override;
@@ -73,6 +74,7 @@ class frmMain : public windowFrame {
     void frmInitTab();
     void initTabs();
     void fillDBList();
+    bool mayLeaveBase();
     void refresh() const;
 
     frmMainView *view_ = nullptr;

@@ -172,6 +172,7 @@ void gameDesign::add() {
         reportNumbered(701, "Impossible d'ajouter le jeu: aucun jeu de ce type n'a été défini!!!");
         return;
     }
+    currentGame->reserve(static_cast<std::size_t>(made.Count()));
     for (std::int32_t i = 1; i <= made.Count(); ++i)
         currentGame->Add(made.shared(i));
     gameGrew_();

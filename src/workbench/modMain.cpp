@@ -59,14 +59,14 @@ void prepare() {
 bool startOnce() {
     prepare();
     std::optional<modGame::FixedGameFailure> atEntry;
-    try {
-        initialise();
-    } catch (const modGame::FixedGameFailure &failure) {
-        handleUnexpected(failure);
-        atEntry = failure;
-    } catch (const RuntimeFailure &failure) {
-        handleUnexpected(failure);
-    }
+    underHandler([&atEntry] {
+        try {
+            initialise();
+        } catch (const modGame::FixedGameFailure &failure) {
+            atEntry = failure;
+            throw;
+        }
+    });
     return atEntry && atEntry->offerRemoval();
 }
 

@@ -208,6 +208,17 @@ TEST_F(Import, RestoresTheOrderThatTheSortLeftAndSaysSo) {
     EXPECT_EQ(log(), "dbCombs.ImportFdjFile: ordre r\xE9tabli apr\xE8s le tri\r\n");
 }
 
+TEST_F(Import, EndsTooWhenAHandlerHasClosedTheLogAndTheOrderIsRestored) {
+    startLog();
+    modMain::gLogFile.close();
+    for (const double day : {1, 2, 3, 4})
+        add({day});
+    EXPECT_TRUE(importLines({"0;0;0;0;0;0;0;19000103;1", "0;0;0;0;0;0;0;19000102;1",
+                             "0;0;0;0;0;0;0;19000101;1", "0;0;0;0;0;0;0;18991231;1"}));
+    EXPECT_EQ(gDbCombs->Count(), 4);
+    EXPECT_TRUE(gDbCombs->isSaved());
+}
+
 TEST_F(Import, OrdersFilesOfAnyOrderWithAndWithoutDoubles) {
     std::mt19937 random(7);
     std::uniform_int_distribution<int> pick(0, 200);

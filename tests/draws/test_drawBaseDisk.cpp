@@ -3,6 +3,7 @@
 
 #include "draws/drawsTest.h"
 
+#include "support/saveTexts.h"
 #include "support/smallDisk.h"
 #include "support/withoutRights.h"
 
@@ -34,23 +35,33 @@ class BaseOnASmallDisk : public DrawsTest {
 TEST_F(BaseOnASmallDisk, AFullDiskIsReportedAndTheDrawsStayInMemory) {
     for (int i = 0; i < drawsThatFit; ++i)
         add(kept);
+    gDbCombs->saveAgain();
     const auto failure = failureOf([] { gDbCombs->Add(37633, 1, {}, true, ""); });
     ASSERT_TRUE(failure);
     EXPECT_EQ(failure->number(), 61);
-    EXPECT_EQ(failure->description(), "Disque plein : " + diskFile());
+    EXPECT_EQ(failure->description(),
+              "Disque plein : " + diskFile() + "\r\nIl manque 4 Ko sur le disque." +
+                  saveTexts::notBegun + saveTexts::freeRoom + saveTexts::baseLater);
     EXPECT_EQ(gDbCombs->Count(), drawsThatFit + 1);
+    EXPECT_EQ(readBytes(diskFile()), drawsFile(std::vector<DrawOf>(drawsThatFit, kept)));
+    EXPECT_FALSE(gDbCombs->isSaved());
     gDbCombs->Remove(drawsThatFit + 1);
     EXPECT_EQ(readBytes(diskFile()), drawsFile(std::vector<DrawOf>(drawsThatFit, kept)));
+    EXPECT_TRUE(gDbCombs->isSaved());
 }
 
 TEST_F(BaseOnASmallDisk, AnImportThatDoesNotFitIsMergedInMemoryAndReported) {
     for (int i = 0; i < drawsThatFit; ++i)
         add({37000.0 + i, 1, {}});
+    gDbCombs->saveAgain();
+    const std::string before = readBytes(diskFile());
     const auto failure = failureOf([&] { importLines({lineB}); });
     ASSERT_TRUE(failure);
     EXPECT_EQ(failure->number(), 61);
     EXPECT_EQ(gDbCombs->Count(), drawsThatFit + 1);
     EXPECT_EQ(rowOf(gDbCombs->Item(drawsThatFit + 1)), rowB);
+    EXPECT_EQ(readBytes(diskFile()), before);
+    EXPECT_FALSE(gDbCombs->isSaved());
     EXPECT_TRUE(desktop.mainWindowEnabled());
 }
 
@@ -130,7 +141,8 @@ TEST_F(BaseWithoutRights, AFolderThatCannotBeWrittenTakesNoExport) {
     EXPECT_EQ(failure->description(),
               "Permission refusée : " + file("base.txt") + "\r\nLe dossier " + folder() +
                   " est protégé en écriture: copiez-le à un endroit où vous pouvez écrire, puis "
-                  "démarrez Boulix depuis cette copie.");
+                  "démarrez Boulix depuis cette copie." +
+                  saveTexts::notBegun);
     expectBaseKept();
 }
 

@@ -75,6 +75,16 @@ TEST_F(Log, ALineAfterTheLogWasClosedIsAFailure) {
     EXPECT_EQ(failureNumber([] { modMain::logLine("trop tard"); }), 52);
 }
 
+TEST_F(Log, ANoteIsALineLikeAnyOtherButDroppedOnceTheLogIsClosed) {
+    modMain::logNote("rien");
+    EXPECT_FALSE(fileExists(file("boulix.log")));
+    open();
+    modMain::logNote("dbCombs.ImportFdjFile: ordre rétabli");
+    modMain::gLogFile.close();
+    EXPECT_EQ(failureNumber([] { modMain::logNote("trop tard"); }), 0);
+    EXPECT_EQ(readBytes(file("boulix.log")), "dbCombs.ImportFdjFile: ordre r\xE9tabli\r\n");
+}
+
 TEST_F(Log, ClosingItAgainAfterAHandlerDidIsNoFailure) {
     open();
     modMain::closeLog();

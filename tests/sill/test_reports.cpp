@@ -42,6 +42,19 @@ TEST_F(Reports, TheHandlerClosesTheLogBeforeTheBoxAndLeavesTheSwitchOn) {
     EXPECT_TRUE(modMain::gDebug);
 }
 
+TEST_F(Reports, AMainRoutineThatFailsOrRunsOutOfMemoryEndsInItsHandlerWithTheLogClosed) {
+    openLog();
+    desktop.onMessage = [](const ShownBox &) { EXPECT_FALSE(modMain::gLogFile.is_open()); };
+    underHandler([] { fail(Failure::overflow); });
+    openLog();
+    underHandler([] { throw std::bad_alloc(); });
+    EXPECT_EQ(desktop.messages,
+              (std::vector<ShownBox>{
+                  {"Dépassement de capacité", Icon::critical, "Boulix Erreur système N° 6"},
+                  {"Mémoire insuffisante", Icon::critical, "Boulix Erreur système N° 7"}}));
+    EXPECT_TRUE(modMain::gDebug);
+}
+
 TEST_F(Reports, ACommandThatFailsIsToldAndTheLogStaysOpen) {
     openLog();
     EXPECT_FALSE(runCommand([] { fail(Failure::fileNotFound, "Fichier introuvable : x"); }));

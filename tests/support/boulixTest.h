@@ -66,5 +66,6 @@ using testing_support::FreshProgramTest;
 using testing_support::NumberScript;
 using testing_support::readBytes;
 using testing_support::ShownBox;
+using testing_support::ShownChoice;
 using testing_support::writeBytes;
 } // namespace boulix

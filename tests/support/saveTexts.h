@@ -11,15 +11,15 @@ namespace boulix::testing_support {
 namespace saveTexts {
 
 inline const std::string notBegun =
-    "\r\nRien n'a été écrit ni effacé, et rien n'est perdu en mémoire. ";
+    "\r\nRien n'a été écrit ni effacé, et rien n'est perdu en mémoire.";
 inline const std::string brokenOff =
     "\r\nLe fichier sur le disque est effacé ou incomplet, mais rien n'est perdu en mémoire tant "
-    "que le programme reste ouvert. ";
+    "que le programme reste ouvert.";
 
-inline const std::string freeRoom = "Libérez de la place sur le disque, puis recommencez.";
+inline const std::string freeRoom = " Libérez de la place sur le disque, puis recommencez.";
 inline const std::string otherFolder =
-    "Il faut un dossier où vous avez le droit d'écrire.";
-inline const std::string lookAtDisk = "Vérifiez le disque et le nom du fichier, puis recommencez.";
+    " Il faut un dossier où vous avez le droit d'écrire.";
+inline const std::string lookAtDisk = " Vérifiez le disque et le nom du fichier, puis recommencez.";
 
 inline const std::string baseLater =
     "\r\nLa base sera enregistrée avec la prochaine modification ; sinon, le programme proposera "

@@ -48,6 +48,13 @@ std::ostream &operator<<(std::ostream &stream, const ShownBox &box) {
     return stream << '[' << box.title << "] (" << nameOf(box.icon) << ") " << box.text;
 }
 
+std::ostream &operator<<(std::ostream &stream, const ShownChoice &choice) {
+    stream << choice.box;
+    for (const std::string &answer : choice.answers)
+        stream << " [" << answer << ']';
+    return stream;
+}
+
 std::string ScriptedDesktop::unusedAnswers() const {
     std::string unused;
     const auto add = [&unused](std::size_t count, const char *kind) {
@@ -55,6 +62,7 @@ std::string ScriptedDesktop::unusedAnswers() const {
             unused += std::to_string(count) + " of " + kind + "; ";
     };
     add(yesNo_.size(), "a yes/no question");
+    add(choices_.size(), "a choice");
     add(texts_.size(), "an input box");
     add(openNames_.size(), "an open dialog");
     add(saveNames_.size(), "a save dialog");
@@ -73,6 +81,12 @@ void ScriptedDesktop::showMessage(const std::string &text, Icon icon, const std:
 bool ScriptedDesktop::askYesNo(const std::string &text, Icon icon, const std::string &title) {
     questions.push_back({text, icon, title});
     return nextAnswer(yesNo_, "the question \"" + text + "\"", false);
+}
+
+std::size_t ScriptedDesktop::askChoice(const std::string &text, Icon icon, const std::string &title,
+                                       const std::vector<std::string> &answers) {
+    choices.push_back({{text, icon, title}, answers});
+    return nextAnswer(choices_, "the choice \"" + text + "\"", answers.size() - 1);
 }
 
 std::optional<std::string> ScriptedDesktop::askText(const std::string &prompt,

@@ -25,6 +25,14 @@ struct ShownBox {
 };
 std::ostream &operator<<(std::ostream &stream, const ShownBox &box);
 
+/// A box with a button for each answer.
+struct ShownChoice {
+    ShownBox box;
+    std::vector<std::string> answers;
+    bool operator==(const ShownChoice &) const = default;
+};
+std::ostream &operator<<(std::ostream &stream, const ShownChoice &choice);
+
 /// The progress window over one job.
 struct ProgressRun {
     std::vector<frmProgress> steps; ///< the window at each turn of the event queue, 100 000 at most
@@ -46,6 +54,7 @@ class ScriptedDesktop : public Desktop {
     // What was shown, oldest first.
     std::vector<ShownBox> messages;
     std::vector<ShownBox> questions;
+    std::vector<ShownChoice> choices;
     std::vector<ShownBox> inputs;
     std::vector<std::size_t> inputLengths; ///< how many characters each input box would take
     std::vector<FileQuestion> openQuestions;
@@ -63,6 +72,7 @@ class ScriptedDesktop : public Desktop {
     // The answers to come, each kind in its own queue.
     void answerYes() { yesNo_.push_back(true); }
     void answerNo() { yesNo_.push_back(false); }
+    void choose(std::size_t answer) { choices_.push_back(answer); }
     void answerText(const std::string &text) { texts_.emplace_back(text); }
     void cancelText() { texts_.emplace_back(std::nullopt); }
     void answerOpen(const std::string &fullName) { openNames_.push_back(fullName); }
@@ -89,6 +99,8 @@ class ScriptedDesktop : public Desktop {
 
     void showMessage(const std::string &text, Icon icon, const std::string &title) override;
     bool askYesNo(const std::string &text, Icon icon, const std::string &title) override;
+    std::size_t askChoice(const std::string &text, Icon icon, const std::string &title,
+                          const std::vector<std::string> &answers) override;
     std::optional<std::string> askText(const std::string &prompt, const std::string &title,
                                        std::size_t maxLength) override;
     std::string openFile(const FileQuestion &question) override;
@@ -106,6 +118,7 @@ class ScriptedDesktop : public Desktop {
 
   private:
     std::deque<bool> yesNo_;
+    std::deque<std::size_t> choices_;
     std::deque<std::optional<std::string>> texts_;
     std::deque<std::string> openNames_;
     std::deque<std::string> saveNames_;

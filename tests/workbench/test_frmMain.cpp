@@ -7,9 +7,13 @@
 #include "draws/dbCombs.h"
 #include "sill/modMain.h"
 #include "support/boulixTest.h"
+#include "support/smallDisk.h"
+#include "winnings/rapport.h"
 #include "workbench/frmMain.h"
 
+#include <filesystem>
 #include <limits>
+#include <new>
 
 namespace boulix {
 namespace {
@@ -114,6 +118,118 @@ TEST_F(MainWindow, ADocumentThatIsNotHandedOverKeepsTheProgram) {
     EXPECT_EQ(printers.finishings, 2);
 }
 
+const ShownChoice unsavedBase = {
+    {"La base de données en mémoire n'est pas celle du disque : ses dernières modifications ne "
+     "sont pas enregistrées.\r\nSi vous quittez sans enregistrer, elles seront perdues.",
+     Icon::question, "boulix"},
+    {"Enregistrer et quitter", "Quitter sans enregistrer", "Ne pas quitter"}};
+enum Answer { saveAndQuit, quitWithoutSaving, stay };
+
+TEST_F(MainWindow, QuittingWithDrawsThatNoFileHoldsAsksOnceMoreAndStayingKeepsThem) {
+    addDraw(2, 1);
+    desktop.answerYes();
+    desktop.choose(stay);
+    EXPECT_FALSE(mainWindow->queryClose());
+    EXPECT_EQ(desktop.choices, std::vector<ShownChoice>{unsavedBase});
+    EXPECT_EQ(desktop.otherWindowsUnloaded, 0);
+    EXPECT_FALSE(fileExists(file("tirages.dbl")));
+    desktop.answerNo(); // the first question is enough then
+    EXPECT_FALSE(mainWindow->queryClose());
+    EXPECT_EQ(desktop.choices.size(), 1U);
+}
+
+TEST_F(MainWindow, QuittingWithDrawsThatNoFileHoldsCanSaveThemFirst) {
+    addDraw(2, 1);
+    addDraw(3, 1);
+    desktop.answerYes();
+    desktop.choose(saveAndQuit);
+    EXPECT_TRUE(mainWindow->queryClose());
+    EXPECT_EQ(readBytes(file("tirages.dbl")).size(), 2U * 128 + 28);
+    EXPECT_EQ(desktop.otherWindowsUnloaded, 1);
+}
+
+TEST_F(MainWindow, WhereThatSaveFailsTheProgramStaysAndAsksAgainTheNextTime) {
+    addDraw(2, 1);
+    std::filesystem::create_directory(file("tirages.dbl"));
+    desktop.answerYes();
+    desktop.choose(saveAndQuit);
+    EXPECT_FALSE(mainWindow->queryClose());
+    ASSERT_EQ(desktop.messages.size(), 1U);
+    EXPECT_EQ(desktop.messages[0].title, "Boulix Erreur système N° 75");
+    EXPECT_EQ(gDbCombs->Count(), 1);
+    desktop.answerYes();
+    desktop.choose(quitWithoutSaving);
+    EXPECT_TRUE(mainWindow->queryClose());
+    EXPECT_EQ(desktop.choices, (std::vector<ShownChoice>{unsavedBase, unsavedBase}));
+    EXPECT_TRUE(std::filesystem::is_directory(file("tirages.dbl")));
+}
+
+TEST_F(MainWindow, QuittingAfterASaveOrALoadAsksOnlyOnce) {
+    gDbCombs->Add(37000, 1, numbers(1), true, "");
+    desktop.answerYes();
+    EXPECT_TRUE(mainWindow->queryClose());
+    gDbCombs->load();
+    desktop.answerYes();
+    EXPECT_TRUE(mainWindow->queryClose());
+    gDbCombs->Add(37001, 1, numbers(1), false, "");
+    gDbCombs->load(); // drops it, as a cancelled import does
+    desktop.answerYes();
+    EXPECT_TRUE(mainWindow->queryClose());
+}
+
+TEST_F(MainWindow, AForeignBaseThatWasRefusedIsNothingToSave) {
+    writeBytes(file("tirages.dbl"), std::string(500, 'x'));
+    gDbCombs->load();
+    desktop.answerYes();
+    EXPECT_TRUE(mainWindow->queryClose());
+    EXPECT_EQ(readBytes(file("tirages.dbl")), std::string(500, 'x'));
+}
+
+TEST_F(MainWindow, OnAFullDiskADrawIsKeptTheOldBaseStaysAndTheQuitOffersToSaveAgain) {
+    SmallDisk disk(4096);
+    if (!disk.mounted())
+        GTEST_SKIP() << SmallDisk::whyNot;
+    gDbCombs->dbFile().path(disk.path());
+    for (int i = 0; i < 30; ++i)
+        addDraw(1 + i, 1);
+    gDbCombs->saveAgain();
+    const std::string before = readBytes(disk.file("tirages.dbl"));
+    EXPECT_EQ(failureNumber([] { gDbCombs->Add(37000, 1, numbers(1), true, ""); }), 0);
+    EXPECT_EQ(failureNumber([] { gDbCombs->Add(37001, 1, numbers(1), true, ""); }), 61);
+    EXPECT_EQ(readBytes(disk.file("tirages.dbl")).size(), before.size() + 128);
+    desktop.answerYes();
+    desktop.choose(saveAndQuit);
+    EXPECT_FALSE(mainWindow->queryClose()); // there is no more room than before
+    EXPECT_EQ(gDbCombs->Count(), 32);
+    gDbCombs->dbFile().path(folder());
+    desktop.answerYes();
+    desktop.choose(saveAndQuit);
+    EXPECT_TRUE(mainWindow->queryClose());
+    EXPECT_EQ(readBytes(file("tirages.dbl")).size(), 32U * 128 + 28);
+}
+
+/// A desktop that looks at the log when the other windows go.
+class LookingDesktop : public testing_support::ScriptedDesktop {
+  public:
+    void unloadOtherWindows() override {
+        logWasOpen = modMain::gLogFile.is_open();
+        ScriptedDesktop::unloadOtherWindows();
+    }
+    bool logWasOpen = false;
+};
+
+TEST_F(MainWindow, QuittingClosesTheLogAfterTheOtherWindows) {
+    platform.arguments = "-debug";
+    modMain::Main();
+    LookingDesktop looking;
+    setDesktop(&looking);
+    looking.answerYes();
+    EXPECT_TRUE(mainWindow->queryClose());
+    EXPECT_TRUE(looking.logWasOpen);
+    EXPECT_FALSE(modMain::gLogFile.is_open());
+    setDesktop(&desktop);
+}
+
 TEST_F(MainWindow, HelpOpensTheHelpFileOfTheApplicationFolderInItsWindow) {
     mainWindow->showHelp();
     ASSERT_EQ(desktop.helpCalls.size(), 1U);
@@ -128,6 +244,64 @@ TEST_F(MainWindow, TheRefillShowsTheLastDrawOnTheBoardThoughNoRowIsSelected) {
     EXPECT_EQ(mainWindow->database.lvwDBcomb.rowCount(), 2);
     EXPECT_EQ(mainWindow->database.lblDBCombDesc, "Tirage n° 2 du 03-01-2003");
     EXPECT_EQ(mainWindow->database.getSelectedDraw(), 0);
+}
+
+TEST_F(MainWindow, ARefillThatFailsAtItsFirstLogLineLeavesTheListEmptyNotOld) {
+    addDraw(2, 1);
+    mainWindow->load();
+    EXPECT_EQ(mainWindow->database.lvwDBcomb.rowCount(), 1);
+    modMain::gDebug = true; // the log is closed, as after a handler
+    mainWindow->frmUpdateDBList();
+    EXPECT_EQ(mainWindow->database.lvwDBcomb.rowCount(), 0);
+    EXPECT_EQ(desktop.messages,
+              (std::vector<ShownBox>{{"Nom ou numéro de fichier incorrect", Icon::critical,
+                                      "Boulix Erreur système N° 52"}}));
+}
+
+TEST_F(MainWindow, AFailureOfThePagesSetUpEndsThatAloneAndTheLoadGoesOn) {
+    /// A page that cannot be shown.
+    class BrokenPage : public eliminatorView {
+      public:
+        void refresh() override { fail(Failure::objectNotSet); }
+    };
+    BrokenPage broken;
+    addDraw(2, 1);
+    gRapport->Value(10, 12.5F);
+    mainWindow->elimination.view(&broken);
+    mainWindow->load();
+    EXPECT_EQ(desktop.messages,
+              (std::vector<ShownBox>{
+                  {"Variable objet non définie", Icon::critical, "Boulix Erreur système N° 91"}}));
+    EXPECT_EQ(mainWindow->database.lvwDBcomb.rowCount(), 0); // its fill comes after the pages
+    EXPECT_EQ(mainWindow->winnings.txtRapPrice[10], "12.5");
+    EXPECT_EQ(mainWindow->StatusBar[0], "1 combinaisons dans la base de données");
+    mainWindow->elimination.view(nullptr);
+}
+
+TEST_F(MainWindow, WithTheLogOnADamagedDateInTheBaseIsToldAndTheMainWindowComesAllTheSame) {
+    gDbCombs->Add(std::numeric_limits<double>::quiet_NaN(), 1, numbers(5), true, "");
+    gRapport->save(file("defrapp.rap"));
+    resetGlobals();
+    platform.arguments = "-debug";
+    modMain::Main();
+    // The refill's handler closes the log, so the next line of the load is a failure in its turn.
+    EXPECT_EQ(desktop.messages,
+              (std::vector<ShownBox>{
+                  {"Dépassement de capacité", Icon::critical, "Boulix Erreur système N° 6"},
+                  {"Nom ou numéro de fichier incorrect", Icon::critical,
+                   "Boulix Erreur système N° 52"}}));
+    EXPECT_TRUE(desktop.mainWindowShown);
+    EXPECT_FALSE(desktop.splashVisible);
+}
+
+TEST_F(MainWindow, AFullMemoryEndsTheLoadLikeAnyOtherFailure) {
+    addDraw(2, 1);
+    platform.shortForm = [](Date) -> std::string { throw std::bad_alloc(); };
+    mainWindow->load();
+    ASSERT_FALSE(desktop.messages.empty());
+    EXPECT_EQ(desktop.messages[0],
+              (ShownBox{"Mémoire insuffisante", Icon::critical, "Boulix Erreur système N° 7"}));
+    EXPECT_EQ(gDbCombs->Count(), 1);
 }
 
 TEST_F(MainWindow, ADrawWithoutADateEndsTheRefillWithOneMessageAndKeepsTheRowsBeforeIt) {

@@ -365,7 +365,7 @@ TEST_F(StartUp, AFolderWithoutRightsAndWithoutABaseSaysWhatToDo) {
               (std::vector<ShownBox>{
                   {"Permission refusée : " + file("tirages.dbl") + "\r\nLe dossier " + folder() +
                        " est protégé en écriture: copiez-le à un endroit où vous pouvez écrire, "
-                       "puis démarrez Boulix depuis cette copie.",
+                       "puis démarrez Boulix depuis cette copie." + saveTexts::notBegun,
                    Icon::critical, "Boulix Erreur système N° 70"}}));
 }
 

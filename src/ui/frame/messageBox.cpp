@@ -5,6 +5,11 @@
 
 #include "ui/widgets/qtText.h"
 
+#include <QPushButton>
+
+#include <algorithm>
+#include <vector>
+
 namespace boulix {
 
 namespace {
@@ -32,6 +37,21 @@ QMessageBox::StandardButton runMessageBox(QWidget *parent, const std::string &te
     box.setObjectName(QStringLiteral("messageBox"));
     box.setTextFormat(Qt::PlainText);
     return static_cast<QMessageBox::StandardButton>(box.exec());
+}
+
+std::size_t runChoiceBox(QWidget *parent, const std::string &text, Icon icon,
+                         const std::string &title, const std::vector<std::string> &answers) {
+    QMessageBox box(qtIcon(icon), toQt(title), linesToQt(text), QMessageBox::NoButton, parent);
+    box.setObjectName(QStringLiteral("messageBox"));
+    box.setTextFormat(Qt::PlainText);
+    std::vector<QPushButton *> buttons;
+    for (const std::string &answer : answers)
+        buttons.push_back(box.addButton(QLatin1Char('&') + toQt(answer), QMessageBox::ActionRole));
+    box.setDefaultButton(buttons.back());
+    box.setEscapeButton(buttons.back());
+    box.exec();
+    const auto chosen = std::find(buttons.begin(), buttons.end(), box.clickedButton());
+    return static_cast<std::size_t>(chosen - buttons.begin());
 }
 
 } // namespace boulix

@@ -15,4 +15,10 @@ QMessageBox::StandardButton runMessageBox(QWidget *parent, const std::string &te
                                           const std::string &title,
                                           QMessageBox::StandardButtons buttons = QMessageBox::Ok);
 
+/// Shows a message box with a button for each of `answers`, whose first letters differ and are
+/// their mnemonics, and gives the index of the one chosen. Enter, Escape and the close box choose
+/// the last.
+std::size_t runChoiceBox(QWidget *parent, const std::string &text, Icon icon,
+                         const std::string &title, const std::vector<std::string> &answers);
+
 } // namespace boulix

@@ -49,6 +49,11 @@ bool QtDesktop::askYesNo(const std::string &text, Icon icon, const std::string &
     return runMessageBox(parentForDialog(), text, icon, title, buttons) == QMessageBox::Yes;
 }
 
+std::size_t QtDesktop::askChoice(const std::string &text, Icon icon, const std::string &title,
+                                 const std::vector<std::string> &answers) {
+    return runChoiceBox(parentForDialog(), text, icon, title, answers);
+}
+
 std::optional<std::string> QtDesktop::askText(const std::string &prompt, const std::string &title,
                                               std::size_t maxLength) {
     QInputDialog dialog(parentForDialog());

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "core/globals.h"
+#include "draws/dbCombs.h"
 #include "sill/modMain.h"
 #include "ui/support/screenTest.h"
 #include "workbench/frmMain.h"
@@ -19,6 +20,8 @@
 #include <gmock/gmock.h>
 
 #include <filesystem>
+#include <functional>
+#include <stdexcept>
 
 namespace boulix {
 namespace {
@@ -146,6 +149,54 @@ TEST_F(MainWindowTest, TheAnswerYesClosesTheOtherWindowsTheLogAndTheWindow) {
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_TRUE(watched.isNull());
     EXPECT_FALSE(modMain::gLogFile.is_open());
+}
+
+/// The quit after a change that no file holds: the second box is left by `step`.
+class UnsavedBaseTest : public MainWindowTest {
+  protected:
+    MainWindow &quitAnd(const std::function<void(QMessageBox &)> &step) {
+        MainWindow &window = start();
+        gDbCombs->Add(37000, 1, {}, false, "");
+        robot.box("Etes-vous sûr de vouloir quitter boulix?", "boulix", QMessageBox::Question,
+                  QMessageBox::Yes);
+        robot.in("messageBox", [step](QWidget &box) { step(dynamic_cast<QMessageBox &>(box)); });
+        window.close();
+        return window;
+    }
+    static QPushButton &answer(const QMessageBox &box, const char *caption) {
+        for (QAbstractButton *button : box.buttons())
+            if (button->text().toStdString() == caption)
+                return dynamic_cast<QPushButton &>(*button);
+        throw std::runtime_error(std::string("no answer ") + caption);
+    }
+};
+
+TEST_F(UnsavedBaseTest, AnswersByMouseSaveAndQuit) {
+    const MainWindow &window =
+        quitAnd([](QMessageBox &box) { click(answer(box, "&Enregistrer et quitter")); });
+    EXPECT_FALSE(window.isVisible());
+    EXPECT_EQ(testing_support::readBytes(file("tirages.dbl")).size(), 128U + 28);
+}
+
+TEST_F(UnsavedBaseTest, EscapeStays) {
+    const MainWindow &window =
+        quitAnd([](QMessageBox &box) { QTest::keyClick(&box, Qt::Key_Escape); });
+    EXPECT_TRUE(window.isVisible());
+    EXPECT_FALSE(gDbCombs->isSaved());
+}
+
+TEST_F(UnsavedBaseTest, EnterStays) {
+    const MainWindow &window =
+        quitAnd([](QMessageBox &box) { QTest::keyClick(box.focusWidget(), Qt::Key_Return); });
+    EXPECT_TRUE(window.isVisible());
+    EXPECT_FALSE(gDbCombs->isSaved());
+}
+
+TEST_F(UnsavedBaseTest, QuitsWithoutSavingWhereTheUserSaysSo) {
+    const MainWindow &window =
+        quitAnd([](QMessageBox &box) { click(answer(box, "&Quitter sans enregistrer")); });
+    EXPECT_FALSE(window.isVisible());
+    EXPECT_EQ(testing_support::readBytes(file("tirages.dbl")).size(), 86U);
 }
 
 TEST_F(MainWindowTest, TheAboutBoxOpensFromTheMenu) {
