@@ -120,8 +120,10 @@ void dbCombs::writeImage(const std::string &image) const {
     try {
         replaceFile(dbFile_.fullName(), image);
     } catch (const RuntimeFailure &failure) {
-        throw withLine(failure, "La base sera enregistrée avec la prochaine modification ; sinon, le programme "
-                 "proposera de le faire avant de quitter.");
+        throw withLine(
+            failure,
+            "La base sera enregistrée avec la prochaine modification ; sinon, le programme "
+            "proposera de le faire avant de quitter.");
     }
 }
 

@@ -17,8 +17,7 @@ inline const std::string brokenOff =
     "que le programme reste ouvert.";
 
 inline const std::string freeRoom = " Libérez de la place sur le disque, puis recommencez.";
-inline const std::string otherFolder =
-    " Il faut un dossier où vous avez le droit d'écrire.";
+inline const std::string otherFolder = " Il faut un dossier où vous avez le droit d'écrire.";
 inline const std::string lookAtDisk = " Vérifiez le disque et le nom du fichier, puis recommencez.";
 
 inline const std::string baseLater =

@@ -302,7 +302,8 @@ TEST_F(StartUp, AnEntryThatCannotBeTakenOutIsToldAndTheProgramDoesNotStart) {
     desktop.answerYes();
     start("");
     ASSERT_EQ(desktop.messages.size(), 2U);
-    EXPECT_EQ(desktop.messages[1], (ShownBox{"Permission refusée : " + file("boulix.ini"),
+    EXPECT_EQ(desktop.messages[1], (ShownBox{"Permission refusée : " + file("boulix.ini") +
+                                                 saveTexts::notBegun + saveTexts::otherFolder,
                                              Icon::critical, "Boulix Erreur système N° 70"}));
     EXPECT_FALSE(desktop.mainWindowShown);
 }
@@ -365,7 +366,8 @@ TEST_F(StartUp, AFolderWithoutRightsAndWithoutABaseSaysWhatToDo) {
               (std::vector<ShownBox>{
                   {"Permission refusée : " + file("tirages.dbl") + "\r\nLe dossier " + folder() +
                        " est protégé en écriture: copiez-le à un endroit où vous pouvez écrire, "
-                       "puis démarrez Boulix depuis cette copie." + saveTexts::notBegun,
+                       "puis démarrez Boulix depuis cette copie." +
+                       saveTexts::notBegun,
                    Icon::critical, "Boulix Erreur système N° 70"}}));
 }
 
