@@ -37,7 +37,7 @@ Case in(const std::string &place) {
 
 struct Allowed {
     const char *title; ///< whole
-    const char *text;  ///< its beginning
+    const char *text;  ///< its beginning or its end
     const char *why;
     Case when = always;
 };
@@ -48,7 +48,9 @@ const std::vector<Allowed> &allowed() {
         {"boulix", "Etes-vous sûr de vouloir quitter boulix?", "the quit asks"},
         {"boulix", "Le fichier ", "a file is there already"},
         {"boulix", "Veuillez remplir tous les champs correctement", "the forecast test"},
-        {"boulix", "", "how many grids an elimination left"},
+        {"boulix", "combinaisons restantes.", "how many grids an elimination left"},
+        {"boulix", "Boulix ne démarre pas tant que l'entrée", "a system of fixed positions"},
+        {"Boulix Erreur système N° 91", fixedSystem, "it stops the next start"},
         {"Effacement du jeu courant", "Etes-vous sûr", "a game is cleared"},
         {"Effacement du jeu en construction", "Etes-vous sûr", "a game is cleared"},
         {"boulix Version 4.0.3", "Attention!!! Si les combinaisons", "grids are removed"},
@@ -128,7 +130,8 @@ const std::vector<Allowed> &allowed() {
 
 bool mayAppear(const std::string &title, const std::string &text, const Circumstances &now) {
     return std::any_of(allowed().begin(), allowed().end(), [&](const Allowed &box) {
-        return title == box.title && text.starts_with(box.text) && box.when(now);
+        return title == box.title && (text.starts_with(box.text) || text.ends_with(box.text)) &&
+               box.when(now);
     });
 }
 

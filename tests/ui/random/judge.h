@@ -10,6 +10,9 @@ class QWidget;
 
 namespace boulix::testing_support {
 
+/// How the failure begins with which a system of fixed positions stops the next start.
+inline constexpr const char *fixedSystem = "Jeu à positions fixes sans définition";
+
 /// What makes a box a matter of course.
 struct Circumstances {
     bool fileWasBad = false;    ///< the last file chosen was one that cannot be used

@@ -109,8 +109,9 @@ void RandomPlayer::startProgram() {
     disk_.begin();
     if (desktop_->mainWidget())
         return;
-    if (!troubled_)
+    if (!troubled_ && !stopped_)
         report("the program did not start");
+    stopped_ = false;
     removeTrouble();
 }
 
@@ -243,6 +244,7 @@ void RandomPlayer::commandCutShort() {
 
 void RandomPlayer::boxShown(const std::string &title, const std::string &text) {
     diary::note(step_, "the program says: " + title + ": " + text);
+    stopped_ = stopped_ || text.starts_with(fixedSystem);
     Circumstances now;
     now.unfinished = unfinished_; // before this box cuts something short itself
     if (title.find("Erreur") != std::string::npos)

@@ -64,6 +64,7 @@ class RandomPlayer : public QObject {
     int depth_ = 0;           ///< windows that wait within one another
     std::string prizes_;      ///< the default prize table, as it was at first
     bool troubled_ = false;   ///< a file of the start was spoilt
+    bool stopped_ = false;    ///< a system of fixed positions stands in the way of the start
     bool unfinished_ = false; ///< a command was cut short since all agreed
     bool failed_ = false;
 };
