@@ -58,7 +58,8 @@ std::string adviceOn(const RuntimeFailure &failure) {
     case Failure::permissionDenied:
         if (failure.description().find(crlf) != std::string::npos) // it says so itself
             return "";
-        return " Il faut un dossier où vous avez le droit d'écrire.";
+        return " Le fichier ou son dossier est protégé en écriture : levez cette protection, ou "
+               "choisissez-en un autre.";
     default:
         return " Vérifiez le disque et le nom du fichier, puis recommencez.";
     }

@@ -5,6 +5,7 @@
 
 #include "core/fileAccess.h"
 #include "support/boulixTest.h"
+#include "support/saveTexts.h"
 #include "support/withoutRights.h"
 
 #include <filesystem>
@@ -32,7 +33,8 @@ TEST_F(FolderAdviceTest, AFolderWithoutRightsIsNamedWithWhatToDo) {
     const auto failure = failureOf([this] { replaceFile(file("tirages.dbl"), "x"); });
     ASSERT_TRUE(failure);
     EXPECT_EQ(failure->number(), 70);
-    EXPECT_EQ(failure->description(), "Permission refusée : " + file("tirages.dbl") + advice());
+    EXPECT_EQ(failure->description(),
+              "Permission refusée : " + file("tirages.dbl") + advice() + saveTexts::notBegun);
 }
 
 TEST_F(FolderAdviceTest, AFileThatLiesThereAlreadyGetsTheSameSentence) {
@@ -43,7 +45,8 @@ TEST_F(FolderAdviceTest, AFileThatLiesThereAlreadyGetsTheSameSentence) {
         const WithoutRights nobody;
         const auto failure = failureOf([this] { replaceFile(file("boulix.ini"), "x"); });
         ASSERT_TRUE(failure);
-        EXPECT_EQ(failure->description(), "Permission refusée : " + file("boulix.ini") + advice());
+        EXPECT_EQ(failure->description(),
+                  "Permission refusée : " + file("boulix.ini") + advice() + saveTexts::notBegun);
     }
     EXPECT_EQ(readBytes(file("boulix.ini")), "a");
 }
@@ -63,7 +66,8 @@ TEST_F(FolderAdviceTest, AProtectedFileInAFolderWithRightsIsTheFilesOwnMatter) {
     fs::permissions(file("boulix.ini"), fs::perms::owner_read);
     const auto failure = failureOf([this] { replaceFile(file("boulix.ini"), "x"); });
     ASSERT_TRUE(failure);
-    EXPECT_EQ(failure->description(), "Permission refusée : " + file("boulix.ini"));
+    EXPECT_EQ(failure->description(), "Permission refusée : " + file("boulix.ini") +
+                                          saveTexts::notBegun + saveTexts::otherFolder);
 }
 
 TEST_F(FolderAdviceTest, AnotherFolderThanThatOfTheProgramIsTheUsersOwnMatter) {

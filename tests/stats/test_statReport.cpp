@@ -322,7 +322,10 @@ TEST_F(StatReport, AFolderWithoutPermissionIsAFailureThatNamesTheFile) {
     ASSERT_TRUE(failure);
     EXPECT_EQ(failure->number(), 70);
     EXPECT_EQ(failure->description(),
-              "Permission refusée : " + name() + saveTexts::notBegun + saveTexts::otherFolder);
+              "Permission refusée : " + name() + "\r\nLe dossier " + folder() +
+                  " est protégé en écriture: copiez-le à un endroit où vous pouvez écrire, puis "
+                  "démarrez Boulix depuis cette copie." +
+                  saveTexts::notBegun);
     EXPECT_FALSE(fileExists(name()));
 }
 

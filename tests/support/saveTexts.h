@@ -17,7 +17,9 @@ inline const std::string brokenOff =
     "que le programme reste ouvert.";
 
 inline const std::string freeRoom = " Libérez de la place sur le disque, puis recommencez.";
-inline const std::string otherFolder = " Il faut un dossier où vous avez le droit d'écrire.";
+inline const std::string otherFolder =
+    " Le fichier ou son dossier est protégé en écriture : levez cette protection, ou "
+    "choisissez-en un autre.";
 inline const std::string lookAtDisk = " Vérifiez le disque et le nom du fichier, puis recommencez.";
 
 inline const std::string baseLater =
