@@ -11,10 +11,20 @@
 #include "games/modGame.h"
 #include "printing/gridConfig.h"
 #include "workbench/frmGameList.h"
+#include "workbench/frmOptimiser.h"
 
 #include <algorithm>
 
 namespace boulix {
+
+std::string systemCost(std::int32_t grids) {
+    const double amount = double{gGridConfig->price()} * grids;
+    const auto cost = static_cast<float>(amount);
+    std::string text = plainAmount(cost) + " " + gGridConfig->monneyUnit();
+    if (cost != 0)
+        text += "s";
+    return text;
+}
 
 void numberBox::init(std::int32_t first, std::int32_t last, std::int32_t value) {
     upDownControl.range(first, last);
@@ -63,15 +73,21 @@ void systemMaker::runButton(int index) {
         return manage();
     case computeSystem:
         return compute();
+    case optimiseSystem:
+        return optimise();
     default:
         return;
     }
 }
 
-void systemMaker::compute() {
+void systemMaker::confirmValues() {
     nWin.confirm();
     nFixed.confirm();
     nChoosen.confirm();
+}
+
+void systemMaker::compute() {
+    confirmValues();
     createNWin_ = narrow16(nWin.upDownControl.value());
     createNFixed_ = narrow16(nFixed.upDownControl.value());
     createNChosen_ = narrow16(nChoosen.upDownControl.value());
@@ -80,20 +96,47 @@ void systemMaker::compute() {
     if (!made->compute(createNFixed_, createNWin_, createNChosen_))
         return;
     newGameDef_ = made;
+    showSystem();
+}
+
+void systemMaker::showSystem() {
     game rows;
     for (std::int32_t i = 1; i <= newGameDef_->nComb(); ++i)
         rows.Add(newGameDef_->sharedRow(i));
     computed(rows);
     lblnGameDefComb = std::to_string(newGameDef_->nComb()) + " combinaisons";
-    showCost();
+    lblCost = systemCost(newGameDef_->nComb());
 }
 
-void systemMaker::showCost() {
-    const double amount = double{gGridConfig->price()} * newGameDef_->nComb();
-    const auto cost = static_cast<float>(amount);
-    lblCost = plainAmount(cost) + " " + gGridConfig->monneyUnit();
-    if (cost != 0)
-        lblCost += "s";
+/// The window opens on a calculation of its own: what was computed before stays until a smaller
+/// system takes its place.
+void systemMaker::optimise() {
+    if (!view_)
+        return;
+    confirmValues();
+    gameDef told;
+    if (!told.compute(narrow16(nFixed.upDownControl.value()), narrow16(nWin.upDownControl.value()),
+                      narrow16(nChoosen.upDownControl.value())))
+        return;
+    frmOptimiser window(told);
+    window.used = [this](const Guarantee &guarantee, const std::vector<gameComb> &rows) {
+        take(guarantee, rows);
+    };
+    view_->runOptimiser(window);
+}
+
+void systemMaker::take(const Guarantee &guarantee, const std::vector<gameComb> &rows) {
+    createNWin_ = guarantee.nWin;
+    createNFixed_ = guarantee.nFixed;
+    createNChosen_ = guarantee.nSelect;
+    newGameDef_ = std::make_shared<gameDef>();
+    newGameDef_->nSelect(guarantee.nSelect);
+    newGameDef_->nWin(guarantee.nWin);
+    newGameDef_->nFixed(guarantee.nFixed);
+    newGameDef_->nCond(guarantee.nCond);
+    for (const gameComb &row : rows)
+        newGameDef_->addGameComb(GridRef(row));
+    showSystem();
 }
 
 void systemMaker::add() {

@@ -9,12 +9,19 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace boulix {
 
 class frmGameList;
+class frmOptimiser;
 class game;
+class gameComb;
 class gameDef;
+struct Guarantee;
+
+/// What so many grids cost, with the unit.
+std::string systemCost(std::int32_t grids);
 
 /// What the tab of computed systems asks of its screen.
 class systemMakerView {
@@ -25,6 +32,8 @@ class systemMakerView {
     virtual void refresh() = 0;
     /// Shows the list of the user's systems modally until it is hidden.
     virtual void runGameList(frmGameList &window) = 0;
+    /// Shows the search for smaller systems modally until it is hidden.
+    virtual void runOptimiser(frmOptimiser &window) = 0;
 };
 
 /// An up-down control and the text box that shows its value.
@@ -44,7 +53,7 @@ class numberBox {
 class systemMaker {
   public:
     /// The buttons of `tbarCreateGame`.
-    enum Button { addSystem = 1, listSystems, computeSystem };
+    enum Button { addSystem = 1, listSystems, computeSystem, optimiseSystem };
 
     systemMaker();
     systemMaker(const systemMaker &) = delete;
@@ -69,8 +78,11 @@ class systemMaker {
   private:
     void add();
     void manage();
+    void confirmValues();
     void compute();
-    void showCost();
+    void optimise();
+    void take(const Guarantee &guarantee, const std::vector<gameComb> &rows);
+    void showSystem();
     void refresh() const;
 
     systemMakerView *view_ = nullptr;

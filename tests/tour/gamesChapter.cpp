@@ -13,9 +13,11 @@
 
 #include <QAction>
 #include <QCheckBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QTimer>
 #include <QtTest/QTest>
 
 namespace boulix {
@@ -143,6 +145,29 @@ void listOfSystems(Tour &tour) {
     tour.player().finish();
 }
 
+void smallerSystem(Tour &tour) {
+    Tour::type(tour.window(), "txtWinNbr", "4");
+    Tour::type(tour.window(), "txtChoosenNbr", "12");
+    tour.player().in("frmOptimiser", [&tour](QWidget &dialog) {
+        EXPECT_EQ(control<QLabel>(dialog, "lblGrids").text().toStdString(), "56 grilles");
+        auto &stop = control<QPushButton>(dialog, "cmdStop");
+        const auto &grids = control<QLabel>(dialog, "lblGrids");
+        QTimer watch;
+        QObject::connect(&watch, &QTimer::timeout, &dialog, [&] {
+            if (grids.text() == QStringLiteral("41 grilles"))
+                click(stop);
+        });
+        watch.start(50);
+        click(control<QPushButton>(dialog, "cmdStart"));
+        tour.picture("systeme-optimise");
+        click(control<QPushButton>(dialog, "cmdUse"));
+    });
+    tour.press("tbarCreateGame_4");
+    EXPECT_EQ(rows(tour, "lvwGameDef"), 41);
+    EXPECT_EQ(tour.label("lblnGameDefComb"), "41 combinaisons");
+    tour.picture("systeme-utilise");
+}
+
 void elimination(Tour &tour) {
     tour.turnTo("TabStrip", 3);
     click(control<QCheckBox>(tour.window(), "chkEliminator_4"));
@@ -210,6 +235,7 @@ void gamesChapter(Tour &tour) {
     randomGame(tour);
     ownSystem(tour);
     listOfSystems(tour);
+    smallerSystem(tour);
     elimination(tour);
     saveGame(tour);
     printing(tour);

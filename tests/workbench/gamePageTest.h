@@ -8,6 +8,7 @@
 #include "support/boulixTest.h"
 #include "workbench/eliminatorPage.h"
 #include "workbench/frmGameList.h"
+#include "workbench/frmOptimiser.h"
 #include "workbench/gamePage.h"
 
 #include <functional>
@@ -39,6 +40,10 @@ class GamePageTest : public BoulixTest, protected gameView {
     void runGameList(frmGameList &window) override {
         if (onGameList)
             onGameList(window);
+    }
+    void runOptimiser(frmOptimiser &window) override {
+        if (onOptimiser)
+            onOptimiser(window);
     }
 
     static std::vector<Texts> rows(const reportList &list) {
@@ -75,6 +80,7 @@ class GamePageTest : public BoulixTest, protected gameView {
     gamePage page{rules};
     std::vector<std::int64_t> selected;
     std::function<void(frmGameList &)> onGameList;
+    std::function<void(frmOptimiser &)> onOptimiser;
     int refreshes = 0;
     int gamesShown = 0;
 };

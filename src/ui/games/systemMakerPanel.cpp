@@ -61,6 +61,9 @@ QWidget *SystemMakerPanel::makeToolbar() {
          QStringLiteral("list"), QKeySequence(Qt::Key_F7)},
         {QStringLiteral("Calculer"), QStringLiteral("Calculer le jeu"), QStringLiteral("compute"),
          QKeySequence(Qt::Key_F5)},
+        {QStringLiteral("Optimiser"),
+         QStringLiteral("Chercher un système de moins de grilles pour la même garantie"),
+         QStringLiteral("reduced"), QKeySequence(Qt::Key_F6)},
     };
     return boulix::makeToolbar(
         QStringLiteral("tbarCreateGame"), buttons,

@@ -5,6 +5,7 @@
 
 #include "ui/games/gameDesignPanel.h"
 #include "ui/games/gameListDialog.h"
+#include "ui/games/optimiserDialog.h"
 #include "ui/style/theme.h"
 #include "ui/widgets/reportView.h"
 #include "ui/widgets/toolbar.h"
@@ -136,6 +137,10 @@ void GameTab::refresh() {
 
 void GameTab::runGameList(frmGameList &window) {
     GameListDialog(window, this).exec();
+}
+
+void GameTab::runOptimiser(frmOptimiser &window) {
+    OptimiserDialog(window, this).exec();
 }
 
 } // namespace boulix

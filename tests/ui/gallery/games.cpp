@@ -7,6 +7,7 @@
 #include "eliminators/eliminators.h"
 #include "games/frmRandomComb.h"
 #include "games/game.h"
+#include "games/gameDef.h"
 #include "games/modGame.h"
 #include "keep.h"
 #include "printing/gridConfig.h"
@@ -14,6 +15,7 @@
 #include "ui/frame/mainWindow.h"
 #include "ui/games/displayGameDialog.h"
 #include "ui/games/gameListDialog.h"
+#include "ui/games/optimiserDialog.h"
 #include "ui/games/randomCombDialog.h"
 #include "ui/winnings/chancesDialog.h"
 #include "ui/winnings/winDateDialog.h"
@@ -23,6 +25,7 @@
 #include "winnings/rapport.h"
 #include "workbench/frmChances.h"
 #include "workbench/frmMain.h"
+#include "workbench/frmOptimiser.h"
 #include "workbench/frmWinDate.h"
 
 #include <QString>
@@ -86,6 +89,17 @@ void keepDialogs() {
     frmDisplayGame grids(modGame::reducedGames[1]);
     DisplayGameDialog gridsDialog(grids);
     keep(gridsDialog, QStringLiteral("frmDisplayGame"));
+
+    gameDef calculated;
+    calculated.compute(0, 4, 12);
+    frmOptimiser optimiser(calculated);
+    optimiser.changed = [&optimiser] {
+        if (optimiser.rows().size() <= 41)
+            optimiser.clickStop();
+    };
+    optimiser.clickStart();
+    OptimiserDialog optimiserDialog(optimiser);
+    keep(optimiserDialog, QStringLiteral("frmOptimiser"));
 
     frmRandomComb draws;
     draws.txtnComb = "200";

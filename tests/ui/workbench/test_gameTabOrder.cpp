@@ -50,7 +50,7 @@ TEST_F(GameTabOrderTest, EachMethodIsReachedBehindTheGameFromItsTabDownToItsResu
         {gameDesign::randomTab, compute + Names{"txtNrandomGrid"} + result},
         {gameDesign::selectorsTab, design + numbered("chkSelect_", 0, 2)},
         {gameDesign::createTab,
-         design + numbered("tbarCreateGame_", 1, 3) +
+         design + numbered("tbarCreateGame_", 1, 4) +
              Names{"txtNFixedNbr", "txtWinNbr", "txtChoosenNbr", "lvwGameDef"}},
     };
     for (const auto &[tab, controls] : methods) {
