@@ -20,6 +20,8 @@ namespace {
 /// The whole search and the parts take turns of so much work.
 constexpr std::int64_t quantum = 4'000'000;
 constexpr std::size_t mostDivisions = 8;
+/// All parts keep their problems in memory, so they must not be large.
+constexpr std::int64_t mostPartSets = 3'000'000;
 
 CoveringDesign designOf(const Guarantee &g) {
     return {g.nSelect - g.nFixed, 6 - g.nFixed, g.nWin - g.nFixed, g.nCond - g.nFixed};
@@ -121,13 +123,19 @@ std::vector<Parts> divisionsOf(const CoveringDesign &whole) {
     if (whole.strength > 1) // else one point of each block counts: the whole search finds the best
         addWays(ways, chosen, whole, whole.strength);
     std::erase(ways, Parts{whole});
+    std::erase_if(ways, [](const Parts &parts) {
+        return std::any_of(parts.begin(), parts.end(), [](const CoveringDesign &part) {
+            return SetCover::sets(part) > mostPartSets;
+        });
+    });
     std::stable_sort(ways.begin(), ways.end(),
                      [](const Parts &a, const Parts &b) { return boundOf(a) < boundOf(b); });
     // The plain covering of fewer points needs no luck.
     const CoveringDesign plain{whole.points - (whole.drawn - whole.strength), whole.blockSize,
                                whole.strength, whole.strength};
-    if (std::erase(ways, Parts{plain}) > 0)
-        ways.insert(ways.begin(), {plain});
+    std::erase(ways, Parts{plain});
+    if (plain.points >= plain.blockSize)
+        ways.insert(ways.begin(), Parts{plain});
     return ways;
 }
 

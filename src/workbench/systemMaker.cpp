@@ -126,16 +126,17 @@ void systemMaker::optimise() {
 }
 
 void systemMaker::take(const Guarantee &guarantee, const std::vector<gameComb> &rows) {
+    const auto made = std::make_shared<gameDef>();
+    made->nSelect(guarantee.nSelect);
+    made->nWin(guarantee.nWin);
+    made->nFixed(guarantee.nFixed);
+    made->nCond(guarantee.nCond);
+    for (const gameComb &row : rows)
+        made->addGameComb(GridRef(row));
     createNWin_ = guarantee.nWin;
     createNFixed_ = guarantee.nFixed;
     createNChosen_ = guarantee.nSelect;
-    newGameDef_ = std::make_shared<gameDef>();
-    newGameDef_->nSelect(guarantee.nSelect);
-    newGameDef_->nWin(guarantee.nWin);
-    newGameDef_->nFixed(guarantee.nFixed);
-    newGameDef_->nCond(guarantee.nCond);
-    for (const gameComb &row : rows)
-        newGameDef_->addGameComb(GridRef(row));
+    newGameDef_ = made;
     showSystem();
 }
 

@@ -27,6 +27,7 @@ class OptimiserDialogTest : public GameScreenTest {
         auto &box = control<QLineEdit>(window, name);
         box.clear();
         QTest::keyClicks(&box, QString::fromLatin1(text));
+        QTest::keyClick(&box, Qt::Key_Return);
     }
     static std::string label(const QWidget &dialog, const char *name) {
         return control<QLabel>(dialog, name).text().toStdString();
