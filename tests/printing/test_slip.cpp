@@ -69,42 +69,22 @@ TEST_F(SlipTest, AGridIsSixCrossesInBlackWithAPenOfFour) {
         EXPECT_EQ(line.penWidth, 4);
 }
 
-/// A picture that remembers the ink of each line, box and text.
-class InkPicture : public RecordingPicture {
-  public:
-    using Ink = std::array<int, 3>;
-    std::vector<Ink> inks;
-
-    void color(Color color) override {
-        ink_ = {color.red, color.green, color.blue};
-        RecordingPicture::color(color);
-    }
-    void line(double x1, double y1, double x2, double y2) override {
-        inks.push_back(ink_);
-        RecordingPicture::line(x1, y1, x2, y2);
-    }
-    void box(double x1, double y1, double x2, double y2) override {
-        inks.push_back(ink_);
-        RecordingPicture::box(x1, y1, x2, y2);
-    }
-    void text(double x, double y, const std::string &words) override {
-        inks.push_back(ink_);
-        RecordingPicture::text(x, y, words);
-    }
-
-  private:
-    Ink ink_{};
-};
+/// How many items were drawn in black; any other ink fails.
+std::size_t drawnInBlack(const RecordingPicture &picture) {
+    for (const Drawn &item : picture.seen().drawn)
+        EXPECT_EQ(item.color, black);
+    return picture.seen().drawn.size();
+}
 
 TEST_F(SlipTest, CrossesAndEmptySlipAreBlackWhateverInkWasUsedBefore) {
-    InkPicture inked;
-    inked.color({200, 100, 50});
-    slip::drawGrid(inked, {1, 12, 23, 34, 45, 49}, 2, {slip::onPicture, up});
-    EXPECT_EQ(inked.inks, std::vector<InkPicture::Ink>(6 * 2));
-    inked.inks.clear();
-    inked.color({200, 100, 50});
-    slip::drawEmptySlip(inked);
-    EXPECT_EQ(inked.inks, std::vector<InkPicture::Ink>(8 * (2 * 49 + 1)));
+    RecordingPicture grid;
+    static_cast<Canvas &>(grid).color({200, 100, 50});
+    slip::drawGrid(grid, {1, 12, 23, 34, 45, 49}, 2, {slip::onPicture, up});
+    EXPECT_EQ(drawnInBlack(grid), 6 * 2);
+    RecordingPicture empty;
+    static_cast<Canvas &>(empty).color({200, 100, 50});
+    slip::drawEmptySlip(empty);
+    EXPECT_EQ(drawnInBlack(empty), 8 * (2 * 49 + 1));
 }
 
 TEST_F(SlipTest, TheEmptySlipIsDrawnWithAThinPenBehindThatOfTheCrosses) {
