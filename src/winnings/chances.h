@@ -27,7 +27,7 @@ struct GameChances {
     RankCases oneGrid{};          ///< in which one grid wins at exactly this rank
     std::uint64_t aboveStake = 0; ///< in which the game wins more than it costs
     ExactAmounts amounts;
-    std::vector<Guarantee> guarantees; ///< none for a game on too many numbers
+    std::vector<GuaranteeRow> guarantees; ///< none for a game on too many numbers
 
     /// The cases in which the best grid wins at `rank` or a higher one.
     std::uint64_t atLeast(int rank) const;

@@ -71,19 +71,19 @@ int numbersInPlay(const game &grids) {
     return std::popcount(numbersOf(grids));
 }
 
-std::vector<Guarantee> guaranteesOf(const game &grids) {
+std::vector<GuaranteeRow> guaranteesOf(const game &grids) {
     const std::uint64_t numbers = numbersOf(grids);
     if (numbers == 0 || std::popcount(numbers) > mostGuaranteeNumbers)
         return {};
     const BestMatches matches(grids, numbers);
-    std::vector<Guarantee> rows;
+    std::vector<GuaranteeRow> rows;
     for (int drawn = 1; drawn <= mostDrawn; ++drawn)
         rows.push_back({drawn, mostDrawn, 0, 0, 0});
     for (std::size_t set = 1; set < matches.all().size(); ++set) {
         const int drawn = std::popcount(set);
         if (drawn > mostDrawn)
             continue;
-        Guarantee &row = rows[static_cast<std::size_t>(drawn - 1)];
+        GuaranteeRow &row = rows[static_cast<std::size_t>(drawn - 1)];
         const int best = matches.all()[set];
         row.least = std::min(row.least, best);
         row.most = std::max(row.most, best);

@@ -11,7 +11,7 @@ namespace boulix {
 class game;
 
 /// What a game guarantees when so many of its numbers are drawn, whichever they are.
-struct Guarantee {
+struct GuaranteeRow {
     int drawn;           ///< how many of the game's numbers are drawn, 1 to 6
     int least;           ///< what the best grid matches of them, in the worst case
     int most;            ///< and in the best one
@@ -27,6 +27,6 @@ int numbersInPlay(const game &grids);
 
 /// The guarantees for one to six drawn numbers; nothing for a game on more than
 /// `mostGuaranteeNumbers` different numbers, or without grids.
-std::vector<Guarantee> guaranteesOf(const game &grids);
+std::vector<GuaranteeRow> guaranteesOf(const game &grids);
 
 } // namespace boulix

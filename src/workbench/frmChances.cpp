@@ -107,7 +107,7 @@ void frmChances::fillGuarantees(const GameChances &chances) {
     lblGuarantees = "Garanties : numéros trouvés par la meilleure grille," + std::string(crlf) +
                     "quand tant des " + std::to_string(chances.numbers) +
                     " numéros du jeu sont tirés.";
-    for (const Guarantee &row : chances.guarantees)
+    for (const GuaranteeRow &row : chances.guarantees)
         guarantees_.push_back(
             {std::to_string(row.drawn), std::to_string(row.least),
              commaNumber(static_cast<double>(row.sum) / static_cast<double>(row.cases), 4),

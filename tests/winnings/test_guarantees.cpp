@@ -12,7 +12,7 @@
 
 namespace boulix {
 
-static bool operator==(const Guarantee &a, const Guarantee &b) {
+static bool operator==(const GuaranteeRow &a, const GuaranteeRow &b) {
     return a.drawn == b.drawn && a.least == b.least && a.most == b.most && a.sum == b.sum &&
            a.cases == b.cases;
 }
@@ -22,11 +22,11 @@ namespace {
 class Guarantees : public ChancesTest {
   protected:
     /// The table by looking at every set of drawn numbers and every grid.
-    std::vector<Guarantee> plain() {
+    std::vector<GuaranteeRow> plain() {
         std::uint64_t numbers = 0;
         for (const gameComb &grid : grids)
             numbers |= maskOf(grid.numbers());
-        std::vector<Guarantee> rows;
+        std::vector<GuaranteeRow> rows;
         for (int drawn = 1; drawn <= 6; ++drawn)
             rows.push_back({drawn, 6, 0, 0, 0});
         // The subsets of the numbers, from all of them down to none.
@@ -37,7 +37,7 @@ class Guarantees : public ChancesTest {
             int best = 0;
             for (const gameComb &grid : grids)
                 best = std::max(best, std::popcount(maskOf(grid.numbers()) & set));
-            Guarantee &row = rows[static_cast<std::size_t>(drawn - 1)];
+            GuaranteeRow &row = rows[static_cast<std::size_t>(drawn - 1)];
             row.least = std::min(row.least, best);
             row.most = std::max(row.most, best);
             row.sum += static_cast<std::uint64_t>(best);
@@ -49,9 +49,9 @@ class Guarantees : public ChancesTest {
 
 TEST_F(Guarantees, OfOneGridAreItsOwnNumbers) {
     addGrid({49, 1, 7, 30, 22, 8});
-    const std::vector<Guarantee> expected = {{1, 1, 1, 6, 6},   {2, 2, 2, 30, 15},
-                                             {3, 3, 3, 60, 20}, {4, 4, 4, 60, 15},
-                                             {5, 5, 5, 30, 6},  {6, 6, 6, 6, 1}};
+    const std::vector<GuaranteeRow> expected = {{1, 1, 1, 6, 6},   {2, 2, 2, 30, 15},
+                                                {3, 3, 3, 60, 20}, {4, 4, 4, 60, 15},
+                                                {5, 5, 5, 30, 6},  {6, 6, 6, 6, 1}};
     EXPECT_EQ(guaranteesOf(grids), expected);
     EXPECT_EQ(numbersInPlay(grids), 6);
 }
@@ -59,9 +59,9 @@ TEST_F(Guarantees, OfOneGridAreItsOwnNumbers) {
 TEST_F(Guarantees, OfTwoGridsByHand) {
     addGrid({1, 2, 3, 4, 5, 6});
     addGrid({4, 5, 6, 7, 8, 9});
-    const std::vector<Guarantee> rows = guaranteesOf(grids);
+    const std::vector<GuaranteeRow> rows = guaranteesOf(grids);
     ASSERT_EQ(rows.size(), 6U);
-    EXPECT_EQ(rows[1], (Guarantee{2, 1, 2, 2 * 27 + 9, 36})) << "one of 1, 2, 3, one of 7, 8, 9";
+    EXPECT_EQ(rows[1], (GuaranteeRow{2, 1, 2, 2 * 27 + 9, 36})) << "one of 1, 2, 3, one of 7, 8, 9";
     EXPECT_EQ(rows[5].least, 3) << "1, 2, 3, 7, 8, 9";
     EXPECT_EQ(rows[5].most, 6);
     EXPECT_EQ(numbersInPlay(grids), 9);
@@ -88,7 +88,7 @@ TEST_F(Guarantees, OfTheCarriedSystemsAreFoundByThePlainSearchToo) {
             grids.Add(system.sharedRow(row));
         if (numbersInPlay(grids) != system.nSelect())
             continue;
-        const std::vector<Guarantee> rows = guaranteesOf(grids);
+        const std::vector<GuaranteeRow> rows = guaranteesOf(grids);
         EXPECT_EQ(rows, plain()) << system.label();
         if (system.label() == "5 numéros gagnants si 6 sur 10 en 18 grilles") {
             EXPECT_EQ(rows.at(5).least, 5);
