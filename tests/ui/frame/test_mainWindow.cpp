@@ -233,7 +233,13 @@ TEST_F(MainWindowTest, AStartThatFailsLeavesTheSplashAndNoMainWindow) {
 
 TEST_F(MainWindowTest, ARefusedBaseIsNoReasonToStop) {
     testing_support::writeBytes(file("tirages.dbl"), std::string(4000, 'x'));
-    robot.in("messageBox", [](QWidget &box) { click(*box.findChild<QPushButton *>()); });
+    for (const char *beginning :
+         {"Impossible de charger le fichier tirages.dbl ", "La base des tirages est vide. "})
+        robot.in("messageBox", [beginning](QWidget &box) {
+            EXPECT_EQ(control<QLabel>(box, "qt_msgbox_label").text().toStdString().find(beginning),
+                      0U);
+            click(*box.findChild<QPushButton *>());
+        });
     EXPECT_EQ(control<QLabel>(start(), "StatusBar_1").text().toStdString(),
               "0 combinaisons dans la base de données");
 }

@@ -215,12 +215,13 @@ void RandomPlayer::step() {
     --depth_;
 }
 
-/// Closes what waits for the player, so that the play can end.
+/// Closes what waits for the player, so that the play can end. By the close box where there is
+/// one: a number dialog that is merely hidden comes back after a refused answer.
 void RandomPlayer::leave() {
     if (QWidget *popup = QApplication::activePopupWidget())
         popup->close();
-    else if (QWidget *modal = QApplication::activeModalWidget())
-        modal->hide();
+    else if (QWidget *modal = QApplication::activeModalWidget(); modal && !modal->close())
+        modal->hide(); // the date is left by its button only
 }
 
 /// No command is under way: everything must be in order.

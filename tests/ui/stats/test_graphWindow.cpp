@@ -7,6 +7,7 @@
 #include "stats/frmGraph.h"
 #include "stats/graphSettings.h"
 #include "support/boulixTest.h"
+#include "support/saveTexts.h"
 #include "support/smallDisk.h"
 #include "support/withoutRights.h"
 #include "ui/stats/graphWindow.h"
@@ -276,9 +277,13 @@ TEST_F(GraphWindowTest, AFolderWithoutPermissionIsOneMessage) {
         keep(entry, file("graphe"));
     }
     std::filesystem::permissions(folder(), std::filesystem::perms(0755));
+    const std::string text = "Permission refusée : " + file("graphe") + "\r\nLe dossier " +
+                             folder() +
+                             " est protégé en écriture: copiez-le à un endroit où vous pouvez "
+                             "écrire, puis démarrez Boulix depuis cette copie." +
+                             saveTexts::notBegun;
     EXPECT_EQ(desktop.messages,
-              std::vector<ShownBox>(2, {"Permission refusée : " + file("graphe"), Icon::critical,
-                                        "Boulix Erreur système N° 70"}));
+              std::vector<ShownBox>(2, {text, Icon::critical, "Boulix Erreur système N° 70"}));
     EXPECT_FALSE(fileExists(file("graphe")));
 }
 
