@@ -20,7 +20,7 @@ namespace boulix::testing_support {
 namespace {
 
 constexpr int pollMilliseconds = 5;
-constexpr int patienceMilliseconds = 10'000;
+constexpr int patienceMilliseconds = 60'000; // a count of two seconds, on a busy machine
 
 bool onScreen(const QWidget &window) {
     return window.isVisible() && window.windowHandle() && window.windowHandle()->isExposed();
