@@ -27,6 +27,8 @@ class QuietDesktop : public Desktop {
                                        std::size_t) override {
         return std::nullopt;
     }
+    void announce(const std::string &) override {}
+    void focusField(const std::string &) override {}
     std::string openFile(const FileQuestion &) override { return fileName; }
     std::string saveFile(const FileQuestion &) override { return fileName; }
     void runNumberDialog(frmNbrSelector &) override {}

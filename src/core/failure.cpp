@@ -94,6 +94,12 @@ RuntimeFailure::RuntimeFailure(Failure failure) : RuntimeFailure(failure, descri
 RuntimeFailure::RuntimeFailure(Failure failure, std::string description)
     : number_(static_cast<int>(failure)), description_(std::move(description)) {}
 
+RuntimeFailure RuntimeFailure::inBox(std::string name) const {
+    RuntimeFailure failure = *this;
+    failure.box_ = std::move(name);
+    return failure;
+}
+
 void fail(Failure failure) {
     throw RuntimeFailure(failure);
 }
@@ -113,7 +119,9 @@ void failForFile(Failure failure, const std::string &path) {
 }
 
 RuntimeFailure withLine(const RuntimeFailure &failure, const std::string &line) {
-    return {static_cast<Failure>(failure.number()), failure.description() + crlf + line};
+    const RuntimeFailure longer(static_cast<Failure>(failure.number()),
+                                failure.description() + crlf + line);
+    return longer.inBox(failure.box());
 }
 
 } // namespace boulix

@@ -39,13 +39,19 @@ class RuntimeFailure : public std::exception {
     /// A failure whose description says more than the usual one (a file, an entry).
     RuntimeFailure(Failure failure, std::string description);
 
+    /// The same failure, brought by the text in the box of a window with this object name.
+    RuntimeFailure inBox(std::string name) const;
+
     int number() const { return number_; }
     const std::string &description() const { return description_; }
+    /// The object name of the box whose text brought the failure; empty where none did.
+    const std::string &box() const { return box_; }
     const char *what() const noexcept override { return description_.c_str(); }
 
   private:
     int number_;
     std::string description_;
+    std::string box_;
 };
 
 [[noreturn]] void fail(Failure failure);

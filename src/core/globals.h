@@ -15,6 +15,7 @@ class game;
 class gridConfig;
 class pronostics;
 class rapport;
+class UndoList;
 
 /// One object for the whole run, made on first use. A reference taken from it stays good until
 /// `resetGlobals`.
@@ -43,11 +44,13 @@ inline Global<eliminators> gEliminators;
 inline Global<pronostics> gPronostics;
 inline Global<game> currentGame;
 inline Global<game> constructionGame;
+inline Global<UndoList> gUndo;
 inline Global<frmMain> mainWindow;
 
 /// Drops all of them, so that each test starts as the program does.
 inline void resetGlobals() {
     mainWindow.reset(); // first: its pages look at the others
+    gUndo.reset(); // and its steps exchange them
     gAppInfo.reset();
     gDbCombs.reset();
     gGridConfig.reset();

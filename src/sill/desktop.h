@@ -60,6 +60,13 @@ class Desktop {
     virtual std::optional<std::string> askText(const std::string &prompt, const std::string &title,
                                                std::size_t maxLength) = 0;
 
+    /// Says in the status bar of the main window, behind its panels, what was done. It stands there
+    /// until the next one.
+    virtual void announce(const std::string &text) = 0;
+    /// Gives the focus to the box with that object name in the window in front, its text selected.
+    /// Nothing where there is none.
+    virtual void focusField(const std::string &name) = 0;
+
     /// The full name of an existing file, empty when none was chosen.
     virtual std::string openFile(const FileQuestion &question) = 0;
     /// The full name of a file in an existing folder, empty when none was chosen. The dialog

@@ -23,6 +23,12 @@ void reportList::rows(std::int64_t count, Cell cell) {
     notify();
 }
 
+void reportList::whenEmpty(EmptyPlace place) {
+    whenEmpty_ = std::move(place);
+    if (count_ == 0)
+        notify();
+}
+
 void reportList::clear() {
     rows(0, {});
 }

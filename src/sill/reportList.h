@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "sill/emptyPlace.h"
+
 #include <cstdint>
 #include <functional>
 #include <string>
@@ -32,6 +34,9 @@ class reportList {
     /// No rows any more.
     void clear();
     std::int64_t rowCount() const { return count_; }
+    /// What stands in the list while it has no rows; at first nothing.
+    void whenEmpty(EmptyPlace place);
+    const EmptyPlace &whenEmpty() const { return whenEmpty_; }
 
     /// Orders the rows by the text of `column`; equal texts keep their order.
     void sortByText(int column, bool descending = false);
@@ -57,6 +62,7 @@ class reportList {
     std::vector<ReportColumn> columns_;
     Cell cell_;
     std::int64_t count_ = 0;
+    EmptyPlace whenEmpty_;
     int sortColumn_ = -1;
     bool descending_ = false;
     std::vector<std::uint32_t> order_; // empty while unsorted

@@ -32,6 +32,8 @@ void underHandler(const std::function<void()> &routine) {
 void showUnexpected(const RuntimeFailure &failure) {
     desktop().showMessage(failure.description(), Icon::critical,
                           "Boulix Erreur système N° " + std::to_string(failure.number()));
+    if (!failure.box().empty())
+        desktop().focusField(failure.box());
 }
 
 bool runCommand(const std::function<void()> &command) {

@@ -22,7 +22,8 @@ void handleUnexpected(const RuntimeFailure &failure);
 /// want of memory, which is a failure like any other.
 void underHandler(const std::function<void()> &routine);
 
-/// Shows a failure in the same form and leaves the log alone.
+/// Shows a failure in the same form and leaves the log alone. The box whose text brought it has the
+/// focus then.
 void showUnexpected(const RuntimeFailure &failure);
 
 /// Runs a command of the user. A run-time failure ends the command and is shown; the program

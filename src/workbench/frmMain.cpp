@@ -14,6 +14,7 @@
 #include "sill/help.h"
 #include "sill/modMain.h"
 #include "sill/reports.h"
+#include "sill/undo.h"
 
 namespace boulix {
 
@@ -123,6 +124,18 @@ void frmMain::clickTab(int position) {
         return;
     visiblePage_ = clicked;
     refresh();
+}
+
+void frmMain::undo() {
+    const std::string name = gUndo->undoName();
+    if (!name.empty() && runCommand([] { gUndo->undo(); }))
+        desktop().announce("Annulé : " + name);
+}
+
+void frmMain::redo() {
+    const std::string name = gUndo->redoName();
+    if (!name.empty() && runCommand([] { gUndo->redo(); }))
+        desktop().announce("Rétabli : " + name);
 }
 
 void frmMain::showHelp() {

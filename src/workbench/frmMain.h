@@ -59,6 +59,10 @@ class frmMain : public windowFrame {
     std::int16_t visiblePage() const { return visiblePage_; }
     /// A click on the tab at `position`, 1 to 6.
     void clickTab(int position);
+    /// The entries `mnuUndo` and `mnuRedo`: the last command is taken back, or done again. A
+    /// failure is shown.
+    void undo();
+    void redo();
     /// The entry `mnuHelp`.
     void showHelp();
     /// The window is about to close: asks the user, and asks again where the base in memory has

@@ -60,6 +60,8 @@ class ScriptedDesktop : public Desktop {
     std::vector<FileQuestion> openQuestions;
     std::vector<FileQuestion> saveQuestions;
     std::vector<NumberShowing> numberShowings;
+    std::vector<std::string> announcements; ///< what the status bar said
+    std::vector<std::string> focusedFields; ///< the boxes that a failure gave the focus to
     int dateShowings = 0;
     std::vector<ProgressRun> progressRuns;
     std::vector<SplashTexts> splashes;
@@ -103,6 +105,8 @@ class ScriptedDesktop : public Desktop {
                           const std::vector<std::string> &answers) override;
     std::optional<std::string> askText(const std::string &prompt, const std::string &title,
                                        std::size_t maxLength) override;
+    void announce(const std::string &text) override { announcements.push_back(text); }
+    void focusField(const std::string &name) override { focusedFields.push_back(name); }
     std::string openFile(const FileQuestion &question) override;
     std::string saveFile(const FileQuestion &question) override;
     void runNumberDialog(frmNbrSelector &dialog) override;

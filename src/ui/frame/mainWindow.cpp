@@ -7,9 +7,11 @@
 #include "printing/modPrinter.h"
 #include "sill/appInfo.h"
 #include "sill/reports.h"
+#include "sill/undo.h"
 #include "ui/frame/frmAbout.h"
 #include "ui/style/iconLoader.h"
 #include "ui/style/theme.h"
+#include "ui/widgets/elidedLabel.h"
 #include "ui/widgets/qtText.h"
 
 #include <QAction>
@@ -59,6 +61,7 @@ MainWindow::MainWindow(frmMain &main, const MainParts &parts)
 }
 
 MainWindow::~MainWindow() {
+    gUndo->changed = nullptr;
     main_.view(nullptr);
 }
 
@@ -97,6 +100,8 @@ void MainWindow::makeMenus() {
     quit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
     connect(quit, &QAction::triggered, this, &QWidget::close);
 
+    makeEditMenu();
+
     QMenu *config = menuBar()->addMenu(QStringLiteral("&Configuration"));
     config->setObjectName(QStringLiteral("mnuConfig"));
     QAction *printer =
@@ -124,6 +129,33 @@ void MainWindow::makeMenus() {
     connect(about, &QAction::triggered, this, &MainWindow::showAbout);
 }
 
+void MainWindow::makeEditMenu() {
+    QMenu *edit = menuBar()->addMenu(QStringLiteral("E&dition"));
+    edit->setObjectName(QStringLiteral("mnuEdit"));
+    undo_ = addEntry(*edit, QStringLiteral("mnuUndo"), {}, QStringLiteral("undo"));
+    undo_->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Z));
+    connect(undo_, &QAction::triggered, this, [this] { main_.undo(); });
+    redo_ = addEntry(*edit, QStringLiteral("mnuRedo"), {}, QStringLiteral("redo"));
+    redo_->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z));
+    connect(redo_, &QAction::triggered, this, [this] { main_.redo(); });
+    gUndo->changed = [this] { showUndo(); };
+    showUndo();
+}
+
+/// The entries name what they would take back or do again.
+void MainWindow::showUndo() {
+    const auto show = [](QAction &entry, const QString &verb, const std::string &command) {
+        entry.setText(command.empty() ? verb : verb + QStringLiteral(" « %1 »").arg(toQt(command)));
+        entry.setEnabled(!command.empty());
+    };
+    show(*undo_, QStringLiteral("&Annuler"), gUndo->undoName());
+    show(*redo_, QStringLiteral("&Rétablir"), gUndo->redoName());
+}
+
+void MainWindow::announce(const QString &text) {
+    announcement_->setText(text);
+}
+
 void MainWindow::makeStatusBar() {
     auto *bar = new QStatusBar(this);
     bar->setObjectName(QStringLiteral("StatusBar"));
@@ -134,6 +166,9 @@ void MainWindow::makeStatusBar() {
         panels_[i]->setContentsMargins(theme::gap, 0, theme::gap, 0);
         bar->addWidget(panels_[i]);
     }
+    announcement_ = new ElidedLabel(bar);
+    announcement_->setObjectName(QStringLiteral("announcement"));
+    bar->addWidget(announcement_, 1);
 }
 
 void MainWindow::refresh() {

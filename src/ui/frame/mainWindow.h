@@ -15,6 +15,8 @@ class QTabWidget;
 
 namespace boulix {
 
+class ElidedLabel;
+
 /// What the main window shows without knowing it: the rooms of the pages stand above the frame.
 struct MainParts {
     using MakePage = QWidget *(*)(frmMain &main, QWidget *parent);
@@ -36,6 +38,8 @@ class MainWindow : public QMainWindow, public frmMainView {
     ~MainWindow() override;
 
     void refresh() override;
+    /// Says behind the panels of the status bar what was done.
+    void announce(const QString &text);
 
   protected:
     void closeEvent(QCloseEvent *event) override;
@@ -43,6 +47,8 @@ class MainWindow : public QMainWindow, public frmMainView {
   private:
     void makePages();
     void makeMenus();
+    void makeEditMenu();
+    void showUndo();
     void makeStatusBar();
     QAction *addEntry(QMenu &menu, const QString &name, const QString &caption,
                       const QString &icon);
@@ -52,6 +58,9 @@ class MainWindow : public QMainWindow, public frmMainView {
     MainParts parts_;
     QTabWidget *TabStrip;
     std::array<QLabel *, 2> panels_{};
+    ElidedLabel *announcement_ = nullptr;
+    QAction *undo_ = nullptr;
+    QAction *redo_ = nullptr;
 };
 
 } // namespace boulix

@@ -67,6 +67,21 @@ std::optional<std::string> QtDesktop::askText(const std::string &prompt, const s
     return fromQt(dialog.textValue());
 }
 
+void QtDesktop::announce(const std::string &text) {
+    if (main_)
+        main_->announce(toQt(text));
+}
+
+void QtDesktop::focusField(const std::string &name) {
+    QWidget *front = parentForDialog();
+    auto *box = front ? front->findChild<QWidget *>(toQt(name)) : nullptr;
+    if (!box)
+        return;
+    box->setFocus(Qt::OtherFocusReason);
+    if (auto *line = qobject_cast<QLineEdit *>(box))
+        line->selectAll();
+}
+
 std::string QtDesktop::openFile(const FileQuestion &question) {
     return fileDialogs::open(parentForDialog(), question);
 }
@@ -163,7 +178,7 @@ void QtDesktop::comeToFront() {
     QWidget *front = parentForDialog();
     if (!front)
         return;
-    for (QWidget *window : {main_.get(), front}) {
+    for (QWidget *window : {mainWidget(), front}) {
         if (!window)
             continue;
         window->setWindowState(window->windowState() & ~Qt::WindowMinimized);

@@ -34,6 +34,9 @@ class QtDesktop : public Desktop {
     std::optional<std::string> askText(const std::string &prompt, const std::string &title,
                                        std::size_t maxLength) override;
 
+    void announce(const std::string &text) override;
+    void focusField(const std::string &name) override;
+
     std::string openFile(const FileQuestion &question) override;
     std::string saveFile(const FileQuestion &question) override;
 
@@ -65,7 +68,7 @@ class QtDesktop : public Desktop {
     void followProgress(Clock::time_point now);
 
     MainParts parts_;
-    std::unique_ptr<QWidget> main_;
+    std::unique_ptr<MainWindow> main_;
     std::unique_ptr<ProgressWindow> progress_;
     std::unique_ptr<frmSplash> splash_;
     QPointer<HelpWindow> help_;

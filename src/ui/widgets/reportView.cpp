@@ -3,7 +3,9 @@
 
 #include "ui/widgets/reportView.h"
 
+#include "sill/emptyPlace.h"
 #include "sill/reportList.h"
+#include "ui/widgets/emptyPlaceView.h"
 #include "ui/widgets/qtText.h"
 #include "ui/widgets/reportCopy.h"
 #include "ui/widgets/reportListModel.h"
@@ -29,7 +31,7 @@ constexpr int rowPadding = 7; // above and below it, together
 
 ReportView::ReportView(reportList &list, QWidget *parent)
     : QAbstractItemView(parent), model_(std::make_unique<ReportListModel>(list)),
-      header_(new QHeaderView(Qt::Horizontal, this)) {
+      header_(new QHeaderView(Qt::Horizontal, this)), empty_(new EmptyPlaceView(viewport())) {
     setSelectionBehavior(SelectRows);
     setSelectionMode(SingleSelection);
     setEditTriggers(NoEditTriggers);
@@ -136,6 +138,11 @@ void ReportView::reset() {
     showSorting();
     updateGeometries();
     verticalScrollBar()->setValue(top_);
+    showEmptyPlace();
+}
+
+void ReportView::showEmptyPlace() {
+    empty_->tell(rowCount() == 0 ? model_->list().whenEmpty() : EmptyPlace());
 }
 
 void ReportView::changeEvent(QEvent *event) {
@@ -309,6 +316,7 @@ void ReportView::updateGeometries() {
     horizontalScrollBar()->setSingleStep(std::max(1, area.width() / 8));
     horizontalScrollBar()->setRange(0, std::max(0, header_->length() - area.width()));
     QAbstractItemView::updateGeometries();
+    empty_->cover();
 }
 
 /// The space bar acts on the row, whichever of its columns was clicked before.

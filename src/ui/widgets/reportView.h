@@ -13,6 +13,7 @@ class QHeaderView;
 
 namespace boulix {
 
+class EmptyPlaceView;
 class reportList;
 class ReportListModel;
 struct RowChecks;
@@ -81,6 +82,7 @@ class ReportView : public QAbstractItemView {
     void sizeColumns();
     int columnWidth(int column) const;
     void showSorting();
+    void showEmptyPlace();
     void paintRow(QPainter &painter, int row);
     void paintText(QPainter &painter, const QStyleOptionViewItem &option,
                    const QModelIndex &index) const;
@@ -94,6 +96,7 @@ class ReportView : public QAbstractItemView {
 
     std::unique_ptr<ReportListModel> model_;
     QHeaderView *header_;
+    EmptyPlaceView *empty_;
     QStringList headers_;
     int rowHeight_ = 1;
     int top_ = 0; ///< the first visible row when there were rows last

@@ -4,11 +4,13 @@
 #include "core/globals.h"
 #include "draws/dbCombs.h"
 #include "sill/modMain.h"
+#include "sill/undo.h"
 #include "ui/support/screenTest.h"
 #include "workbench/frmMain.h"
 
 #include <QAction>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
@@ -88,6 +90,8 @@ TEST_F(MainWindowTest, TheMenusHaveTheirEntries) {
     const Entry entries[] = {
         {"mnuFile", "mnuPrintCanvas", "Imprimer le canevas"},
         {"mnuFile", "mnuExit", "Quitter"},
+        {"mnuEdit", "mnuUndo", "Annuler"},
+        {"mnuEdit", "mnuRedo", "Rétablir"},
         {"mnuConfig", "mnuPrinter", "Paramètres d'impression"},
         {"mnuConfig", "mnuGrid", "Paramètres des grilles"},
         {"mnuConfig", "mnuGraphParam", "Paramètres des graphiques"},
@@ -104,6 +108,60 @@ TEST_F(MainWindowTest, TheMenusHaveTheirEntries) {
     EXPECT_EQ(withoutMnemonic(control<QMenu>(window, "mnuFile").title()), "Fichier");
     EXPECT_EQ(withoutMnemonic(control<QMenu>(window, "mnuConfig").title()), "Configuration");
     EXPECT_EQ(withoutMnemonic(control<QMenu>(window, "mnuHlp").title()), "?");
+}
+
+TEST_F(MainWindowTest, TheMenuEditionStandsBehindTheMenuOfTheFiles) {
+    MainWindow &window = start();
+    QStringList menus;
+    for (const QAction *menu : window.menuBar()->actions())
+        menus << menu->menu()->objectName();
+    EXPECT_EQ(menus.join(u' ').toStdString(), "mnuFile mnuEdit mnuConfig mnuHlp");
+}
+
+TEST_F(MainWindowTest, TheLastCommandIsTakenBackAndDoneAgainFromTheMenuAndFromTheKeyboard) {
+    MainWindow &window = start();
+    auto &undo = control<QAction>(window, "mnuUndo");
+    auto &redo = control<QAction>(window, "mnuRedo");
+    EXPECT_FALSE(undo.isEnabled());
+    EXPECT_FALSE(redo.isEnabled());
+    int value = 1;
+    gUndo->record({"Effacer", [&value, kept = 0]() mutable { std::swap(value, kept); }});
+    EXPECT_TRUE(undo.isEnabled());
+    EXPECT_EQ(withoutMnemonic(undo.text()), "Annuler « Effacer »");
+    QTest::keyClick(&window, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(value, 0);
+    const auto &said = control<QLabel>(window, "announcement");
+    EXPECT_EQ(said.text().toStdString(), "Annulé : Effacer");
+    EXPECT_FALSE(undo.isEnabled());
+    EXPECT_EQ(withoutMnemonic(redo.text()), "Rétablir « Effacer »");
+    QTest::keyClick(&window, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(value, 1);
+    EXPECT_EQ(said.text().toStdString(), "Rétabli : Effacer");
+    undo.trigger();
+    EXPECT_EQ(value, 0);
+}
+
+TEST_F(MainWindowTest, WhatWasDoneStandsBehindThePanelsHoweverNarrowTheWindowIs) {
+    MainWindow &window = start();
+    const int narrowest = window.minimumSizeHint().width();
+    const std::string text(300, 'm');
+    desktop->announce(text);
+    auto &said = control<QLabel>(window, "announcement");
+    EXPECT_EQ(said.text().toStdString(), text);
+    EXPECT_EQ(window.minimumSizeHint().width(), narrowest);
+    EXPECT_GE(said.x(), control<QLabel>(window, "StatusBar_1").geometry().right());
+}
+
+TEST_F(MainWindowTest, AFailureOfABoxGivesItTheFocusWithItsTextSelected) {
+    MainWindow &window = start();
+    clickTab(window, 3);
+    auto &box = control<QLineEdit>(window, "txtEliminator_0");
+    box.setText(QStringLiteral("abc"));
+    desktop->focusField(box.objectName().toStdString());
+    EXPECT_EQ(window.focusWidget(), &box);
+    EXPECT_EQ(box.selectedText().toStdString(), "abc");
+    desktop->focusField("none of these");
+    EXPECT_EQ(window.focusWidget(), &box);
 }
 
 TEST_F(MainWindowTest, NoTwoMnemonicsOfTheWindowAreTheSame) {

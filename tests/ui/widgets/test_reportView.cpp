@@ -11,6 +11,7 @@
 #include <QClipboard>
 #include <QElapsedTimer>
 #include <QHeaderView>
+#include <QLabel>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QtTest/QTest>
@@ -357,6 +358,31 @@ TEST_F(ReportViewTest, AClickOnTheHeaderTellsTheColumn) {
     QTest::mouseClick(view->header()->viewport(), Qt::LeftButton, {}, QPoint(x, 5));
     ASSERT_EQ(told.size(), 1);
     EXPECT_EQ(told[0][0].toInt(), 1);
+}
+
+TEST_F(ReportViewTest, AnEmptyListSaysWhatBringsSomething) {
+    int followed = 0;
+    list.whenEmpty({"Le jeu est vide.", "Charger un jeu", [&followed] { ++followed; }});
+    show();
+    auto &place = *view->findChild<QLabel *>(QStringLiteral("emptyPlace"));
+    EXPECT_FALSE(place.isVisible()) << "there are rows";
+    list.clear();
+    EXPECT_TRUE(place.isVisible());
+    EXPECT_EQ(place.text().toStdString(), "Le jeu est vide.<br><a href=\"#\">Charger un jeu</a>");
+    EXPECT_TRUE(view->viewport()->rect().contains(place.geometry()));
+    emit place.linkActivated(QStringLiteral("#"));
+    EXPECT_EQ(followed, 1);
+    list.rows(1, cell);
+    EXPECT_FALSE(place.isVisible());
+}
+
+TEST_F(ReportViewTest, AnEmptyListWithoutALinkTakesNoFocusForItsSentence) {
+    list.whenEmpty({"Aucun tirage < 1900 & co."});
+    show();
+    list.clear();
+    auto &place = *view->findChild<QLabel *>(QStringLiteral("emptyPlace"));
+    EXPECT_EQ(place.text().toStdString(), "Aucun tirage &lt; 1900 &amp; co.");
+    EXPECT_EQ(place.focusPolicy(), Qt::NoFocus);
 }
 
 TEST_F(ReportViewTest, FourteenMillionRowsAppearAtOnceAndAskOnlyForWhatIsSeen) {

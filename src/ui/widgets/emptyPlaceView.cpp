@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: The Boulix developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "ui/widgets/emptyPlaceView.h"
+
+#include "sill/emptyPlace.h"
+#include "sill/reports.h"
+#include "ui/style/theme.h"
+#include "ui/widgets/qtText.h"
+
+namespace boulix {
+
+EmptyPlaceView::EmptyPlaceView(QWidget *ground) : QLabel(ground) {
+    setObjectName(QStringLiteral("emptyPlace"));
+    setAlignment(Qt::AlignCenter);
+    setWordWrap(true);
+    setTextFormat(Qt::RichText);
+    setForegroundRole(QPalette::PlaceholderText);
+}
+
+void EmptyPlaceView::tell(const EmptyPlace &place) {
+    QString text = toQt(place.sentence).toHtmlEscaped();
+    if (!place.link.empty())
+        text += QStringLiteral("<br><a href=\"#\">%1</a>").arg(toQt(place.link).toHtmlEscaped());
+    setText(text);
+    setTextInteractionFlags(place.link.empty()
+                                ? Qt::NoTextInteraction
+                                : Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
+    setAttribute(Qt::WA_TransparentForMouseEvents, place.link.empty());
+    disconnect(this, &QLabel::linkActivated, nullptr, nullptr);
+    connect(this, &QLabel::linkActivated, this,
+            [follow = place.follow] { runCommand([&follow] { follow(); }); });
+    setVisible(!place.sentence.empty());
+    cover();
+}
+
+void EmptyPlaceView::cover() {
+    setGeometry(parentWidget()->rect().adjusted(theme::margin, theme::margin, -theme::margin,
+                                                -theme::margin));
+}
+
+} // namespace boulix
