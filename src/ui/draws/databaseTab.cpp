@@ -76,7 +76,6 @@ void DatabaseTab::layOut() {
     auto *below = new QHBoxLayout;
     below->setContentsMargins(theme::margin, 0, theme::margin, theme::margin);
     below->setSpacing(2 * theme::margin);
-    lvwDBcomb->setMinimumWidth(lvwDBcomb->fullWidth());
     below->addWidget(lvwDBcomb);
     below->addLayout(draw, 1);
 

@@ -6,6 +6,7 @@
 #include "ui/style/iconLoader.h"
 #include "ui/style/theme.h"
 #include "ui/widgets/qtText.h"
+#include "ui/widgets/scrollPanel.h"
 #include "ui/widgets/toolbar.h"
 
 #include <QCheckBox>
@@ -30,8 +31,7 @@ EliminatorTab::EliminatorTab(eliminatorPage &page, QWidget *parent)
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(theme::gap);
     column->addWidget(tBarEliminator);
-    column->addWidget(makeRules());
-    column->addStretch();
+    column->addWidget(new ScrollPanel(makeRules(), this), 1);
     page_.view(this);
     refresh();
 }
@@ -55,8 +55,8 @@ void EliminatorTab::makeToolbar() {
 QWidget *EliminatorTab::makeRules() {
     auto *rules = new QWidget(this);
     auto *grid = new QGridLayout(rules);
-    grid->setContentsMargins(theme::margin, 0, theme::margin, theme::margin);
-    grid->setHorizontalSpacing(2 * theme::margin);
+    grid->setContentsMargins(theme::margin, 0, 0, theme::margin);
+    grid->setHorizontalSpacing(theme::margin);
     grid->setVerticalSpacing(theme::margin);
     grid->setColumnStretch(2, 1);
     std::vector<QWidget *> stops = {tBarEliminator};
@@ -65,6 +65,7 @@ QWidget *EliminatorTab::makeRules() {
         stops.push_back(chkEliminator[static_cast<std::size_t>(index)]);
         stops.push_back(controlOf(index));
     }
+    grid->setRowStretch(eliminatorPage::ruleCount, 1); // in a high window they stay together
     setTabStops(stops);
     return rules;
 }

@@ -8,6 +8,7 @@
 #include "ui/widgets/qtText.h"
 #include "ui/widgets/reportListModel.h"
 #include "ui/widgets/reportView.h"
+#include "ui/widgets/scrollPanel.h"
 #include "ui/widgets/toolbar.h"
 
 #include <QFrame>
@@ -130,8 +131,12 @@ void ForecastTab::layOut() {
     auto *below = new QHBoxLayout;
     below->setContentsMargins(theme::margin, theme::gap, theme::margin, theme::margin);
     below->setSpacing(2 * theme::margin);
-    below->addWidget(makeRules(), 1);
+    auto *rules = new ScrollPanel(makeRules(), this);
+    // In a wide window the points stay beside the rules that give them.
+    rules->setMaximumWidth(fontMetrics().averageCharWidth() * 100);
+    below->addWidget(rules, 100);
     below->addWidget(lvwPronoResults);
+    below->addStretch(1);
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);

@@ -12,23 +12,25 @@
 #include "ui/style/iconLoader.h"
 #include "ui/style/theme.h"
 #include "ui/widgets/elidedLabel.h"
+#include "ui/widgets/fittingTabs.h"
 #include "ui/widgets/qtText.h"
 
 #include <QAction>
 #include <QCloseEvent>
 #include <QLabel>
 #include <QMenuBar>
+#include <QScreen>
 #include <QStatusBar>
-#include <QTabBar>
-#include <QTabWidget>
 
 namespace boulix {
 
 namespace {
 
 /// A twentieth of a point on the screen, enlarged for today's fonts and toolbars.
-constexpr double pixelsPerTwip = 1.35 / 15;
+constexpr double pixelsPerTwip = 1.5 / 15;
 constexpr QSize sizeInTwips{8685, 7560};
+/// What the window manager puts around a window: nobody knows before it is shown.
+constexpr QSize frameRoom{16, 40};
 
 /// The captions of the tabs with their mnemonics, and their icons.
 struct TabLook {
@@ -48,7 +50,7 @@ std::array<TabLook, frmMain::tabCount> tabLooks() {
 } // namespace
 
 MainWindow::MainWindow(frmMain &main, const MainParts &parts)
-    : main_(main), parts_(parts), TabStrip(new QTabWidget(this)) {
+    : main_(main), parts_(parts), TabStrip(new FittingTabs(this)) {
     setObjectName(QStringLiteral("frmMain"));
     setCentralWidget(TabStrip);
     makePages();
@@ -57,7 +59,8 @@ MainWindow::MainWindow(frmMain &main, const MainParts &parts)
     main_.view(this);
     refresh();
     findChild<QWidget *>(QStringLiteral("lvwDBcomb"))->setFocus();
-    resize(sizeInTwips * pixelsPerTwip);
+    const QSize room = screen()->availableGeometry().size() - frameRoom;
+    resize((sizeInTwips * pixelsPerTwip).boundedTo(room));
 }
 
 MainWindow::~MainWindow() {
@@ -69,8 +72,6 @@ void MainWindow::makePages() {
     TabStrip->setObjectName(QStringLiteral("TabStrip"));
     TabStrip->setDocumentMode(true);
     TabStrip->setIconSize({18, 18});
-    TabStrip->setUsesScrollButtons(false); // no tab is scrolled away or cut short
-    TabStrip->setElideMode(Qt::ElideNone);
     const auto looks = tabLooks();
     for (std::size_t i = 0; i < looks.size(); ++i) {
         QWidget *page = parts_.pages[i](main_, TabStrip);

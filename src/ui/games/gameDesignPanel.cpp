@@ -6,6 +6,7 @@
 #include "sill/reports.h"
 #include "ui/games/systemMakerPanel.h"
 #include "ui/style/theme.h"
+#include "ui/widgets/fittingTabs.h"
 #include "ui/widgets/numberBoardView.h"
 #include "ui/widgets/qtText.h"
 #include "ui/widgets/reportView.h"
@@ -18,14 +19,13 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QSignalBlocker>
-#include <QTabBar>
 #include <QToolBar>
 #include <QVBoxLayout>
 
 namespace boulix {
 
 GameDesignPanel::GameDesignPanel(gameDesign &design, QWidget *parent)
-    : QWidget(parent), design_(design), tabGameDesign(new QTabBar(this)),
+    : QWidget(parent), design_(design), tabGameDesign(new FittingTabBar(this)),
       systems_(new SystemMakerPanel(design, this)),
       grdGameDef(new NumberBoardView(design.grdGameDef, this)),
       lvwGameDef(new ReportView(design.lvwGameDef, this)) {
@@ -53,8 +53,6 @@ void GameDesignPanel::makeTabs() {
     tabGameDesign->setAccessibleName(QStringLiteral("Méthode de création"));
     tabGameDesign->setExpanding(false);
     tabGameDesign->setDrawBase(false);
-    tabGameDesign->setUsesScrollButtons(false);
-    tabGameDesign->setElideMode(Qt::ElideNone);
     for (const ControlText &text : gameDesign::tabGameDesign) {
         const int tab = tabGameDesign->addTab(QString::fromUtf8(text.caption));
         tabGameDesign->setTabToolTip(tab, QString::fromUtf8(text.toolTip));
@@ -76,7 +74,7 @@ void GameDesignPanel::makeToolbar() {
                            QString::fromUtf8(icons[i]), shortcuts[i]});
     tbarGameDef = boulix::makeToolbar(
         QStringLiteral("tbarGameDef"), buttons, [this](int button) { design_.clickButton(button); },
-        this);
+        this, ToolbarLook::slim);
 }
 
 QWidget *GameDesignPanel::makeSystemChoice() {
@@ -145,8 +143,7 @@ QWidget *GameDesignPanel::makeGrids() {
     grdGameDef->setMaximumWidth(fontMetrics().averageCharWidth() * 60);
     lvwGameDef->setObjectName(QStringLiteral("lvwGameDef"));
     lvwGameDef->setAccessibleName(QStringLiteral("Grilles calculées"));
-    lvwGameDef->keepAllColumnsVisible();
-    lvwGameDef->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
+    lvwGameDef->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Expanding);
     auto *row = new QHBoxLayout(grids_);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(theme::margin);

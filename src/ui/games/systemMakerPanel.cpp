@@ -67,7 +67,7 @@ QWidget *SystemMakerPanel::makeToolbar() {
     };
     return boulix::makeToolbar(
         QStringLiteral("tbarCreateGame"), buttons,
-        [this](int button) { design_.clickCreateButton(button); }, this);
+        [this](int button) { design_.clickCreateButton(button); }, this, ToolbarLook::slim);
 }
 
 UpDownField *SystemMakerPanel::addNumber(QGridLayout &grid, const QString &title,

@@ -22,11 +22,17 @@ namespace {
 /// The room around the text of a control, both sides together, outline included.
 constexpr QSize pushButtonRoom{30, 12};
 constexpr QSize toolButtonRoom{20, 10};
-constexpr QSize tabRoom{24, 15};
-constexpr QSize tabIconRoom{10, 0}; // more where the text has an icon beside it
+constexpr QSize slimToolButtonRoom{12, 8}; // the text stands beside the icon
+constexpr QSize tabIconRoom{10, 0};        // more where the text has an icon beside it
 
 bool isPushButton(const QWidget *widget) {
     return qobject_cast<const QPushButton *>(widget);
+}
+
+QSize roomOfToolButton(const QStyleOption &option) {
+    const auto *button = qstyleoption_cast<const QStyleOptionToolButton *>(&option);
+    const bool slim = button && button->toolButtonStyle == Qt::ToolButtonTextBesideIcon;
+    return slim ? slimToolButtonRoom : toolButtonRoom;
 }
 
 bool isInToolbar(const QWidget *widget) {
@@ -70,7 +76,7 @@ int ProgramStyle::pixelMetric(PixelMetric metric, const QStyleOption *option,
                               const QWidget *widget) const {
     switch (metric) {
     case PM_TabBarTabHSpace:
-        return tabRoom.width();
+        return widget && widget->property(tight).toBool() ? tightTabRoom : tabRoom.width();
     case PM_TabBarTabVSpace:
         return tabRoom.height();
     case PM_TabBarTabShiftVertical:
@@ -92,7 +98,7 @@ QSize ProgramStyle::sizeFromContents(ContentsType type, const QStyleOption *opti
     if (type == CT_PushButton && isPushButton(widget))
         return contents + pushButtonRoom;
     if (type == CT_ToolButton && isInToolbar(widget))
-        return contents + toolButtonRoom;
+        return contents + roomOfToolButton(*option);
     if (type == CT_TabBarTab) {
         const auto *tab = qstyleoption_cast<const QStyleOptionTab *>(option);
         return tab && !tab->icon.isNull() ? contents + tabIconRoom : contents;

@@ -15,6 +15,12 @@ class ProgramStyle : public QProxyStyle {
     Q_OBJECT
 
   public:
+    /// The room around the caption of a tab, both sides together, outline included.
+    static constexpr QSize tabRoom{24, 15};
+    /// Its width for the tabs of a bar that has the property `tight` set.
+    static constexpr int tightTabRoom = 14;
+    static constexpr const char *tight = "tight";
+
     ProgramStyle();
     /// Gives the running program this style and the palette that goes with the desktop's.
     static void dress();

@@ -62,7 +62,7 @@ QSize NumberBoardView::sizeHint() const {
 }
 
 QSize NumberBoardView::minimumSizeHint() const {
-    return sizeOfBoxes(1.3, 2.8);
+    return sizeOfBoxes(1.05, 2.8);
 }
 
 QSize NumberBoardView::sizeOfBoxes(qreal heightInLines, qreal widthInDigits) const {

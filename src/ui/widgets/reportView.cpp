@@ -117,7 +117,7 @@ QSize ReportView::sizeHint() const {
 }
 
 QSize ReportView::minimumSizeHint() const {
-    return {12 * fontMetrics().averageCharWidth(), header_->sizeHint().height() + 5 * rowHeight_};
+    return {12 * fontMetrics().averageCharWidth(), header_->sizeHint().height() + 3 * rowHeight_};
 }
 
 /// New rows: the place in the list stays where it was, as far as the list still reaches. A list
@@ -157,6 +157,7 @@ void ReportView::sizeColumns() {
         header_->resizeSection(column, columnWidth(column));
     if (allColumnsVisible_)
         setMinimumWidth(fullWidth());
+    updateGeometry();
 }
 
 /// The width of a column by its sample, so that header and sample both have their room.

@@ -13,6 +13,28 @@ namespace boulix {
 
 namespace {
 
+/// Shows its texts as long as all of them have their room.
+class FittingToolbar : public QToolBar {
+  public:
+    FittingToolbar(Qt::ToolButtonStyle style, QWidget *parent) : QToolBar(parent), style_(style) {
+        setToolButtonStyle(style);
+    }
+
+  protected:
+    void resizeEvent(QResizeEvent *event) override {
+        QToolBar::resizeEvent(event);
+        if (toolButtonStyle() == style_)
+            fullWidth_ = sizeHint().width();
+        const Qt::ToolButtonStyle fitting = width() < fullWidth_ ? Qt::ToolButtonIconOnly : style_;
+        if (fitting != toolButtonStyle())
+            setToolButtonStyle(fitting);
+    }
+
+  private:
+    Qt::ToolButtonStyle style_;
+    int fullWidth_ = 0;
+};
+
 QAction *addButton(QToolBar &bar, int number, const ToolbarButton &button) {
     QAction *action = bar.addAction(loadIcon(button.icon), button.caption);
     action->setObjectName(QStringLiteral("%1_%2").arg(bar.objectName()).arg(number));
@@ -28,11 +50,12 @@ QAction *addButton(QToolBar &bar, int number, const ToolbarButton &button) {
 } // namespace
 
 QToolBar *makeToolbar(const QString &name, const std::vector<ToolbarButton> &buttons,
-                      const std::function<void(int)> &clicked, QWidget *parent) {
-    auto *bar = new QToolBar(parent);
+                      const std::function<void(int)> &clicked, QWidget *parent, ToolbarLook look) {
+    const bool large = look == ToolbarLook::large;
+    auto *bar = new FittingToolbar(
+        large ? Qt::ToolButtonTextUnderIcon : Qt::ToolButtonTextBesideIcon, parent);
     bar->setObjectName(name);
-    bar->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
-    bar->setIconSize({24, 24});
+    bar->setIconSize(large ? QSize(24, 24) : QSize(18, 18));
     bar->setMovable(false);
     int number = 0;
     for (const ToolbarButton &button : buttons) {

@@ -22,10 +22,16 @@ struct ToolbarButton {
     QKeySequence shortcut;
 };
 
-/// The toolbar `name`: its buttons are actions called `name_1`, `name_2` ..., text under icons.
-/// `clicked` gets the number of the button, from 1.
+/// Large ones have the text under their icons and stand over a page or a window; slim ones have it
+/// beside them and stand within a page.
+enum class ToolbarLook { large, slim };
+
+/// The toolbar `name`: its buttons are actions called `name_1`, `name_2` ... `clicked` gets the
+/// number of the button, from 1. Where the window is too narrow for the texts the icons stand
+/// alone.
 QToolBar *makeToolbar(const QString &name, const std::vector<ToolbarButton> &buttons,
-                      const std::function<void(int)> &clicked, QWidget *parent);
+                      const std::function<void(int)> &clicked, QWidget *parent,
+                      ToolbarLook look = ToolbarLook::large);
 
 /// The Tab key goes through `stops` in this order, and through all buttons of a toolbar. A field
 /// made of several parts must be made in its turn instead.

@@ -56,7 +56,7 @@ QSize ChanceBars::sizeHint() const {
 }
 
 QSize ChanceBars::minimumSizeHint() const {
-    return {fontMetrics().averageCharWidth() * 60, fontMetrics().height() * 16};
+    return {fontMetrics().averageCharWidth() * 40, fontMetrics().height() * 16};
 }
 
 QRectF ChanceBars::plot() const {

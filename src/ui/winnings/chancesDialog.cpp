@@ -6,6 +6,7 @@
 #include "ui/style/theme.h"
 #include "ui/widgets/qtText.h"
 #include "ui/widgets/reportView.h"
+#include "ui/widgets/scrollPanel.h"
 #include "ui/winnings/chanceBars.h"
 #include "ui/winnings/rankTable.h"
 #include "workbench/frmChances.h"
@@ -15,6 +16,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -32,8 +34,9 @@ ChancesDialog::ChancesDialog(frmChances &rules, QWidget *parent) : QDialog(paren
     setObjectName(QStringLiteral("frmChances"));
     setWindowTitle(QString::fromUtf8(frmChances::caption));
     // Tab goes through the controls in the order of their making.
-    auto *column = new QVBoxLayout(this);
-    column->setContentsMargins(theme::margin, theme::margin, theme::margin, theme::margin);
+    auto *body = new QWidget(this);
+    auto *column = new QVBoxLayout(body);
+    column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(theme::margin);
     QLabel *sentence = makeLabel("lblSentence", rules.lblSentence);
     sentence->setFont(rankTable::strong(font()));
@@ -46,13 +49,18 @@ ChancesDialog::ChancesDialog(frmChances &rules, QWidget *parent) : QDialog(paren
     below->addLayout(makeLeftSide());
     below->addWidget(new ChanceBars(rules.bars, this), 1);
     column->addLayout(below, 2);
-    column->addLayout(makeButtons());
-    resize(minimumSizeHint() + QSize(0, (allRanks - fewestRows) * ranks->rowHeight() + 2));
+    auto *all = new QVBoxLayout(this);
+    all->setContentsMargins(theme::margin, theme::margin, theme::margin, theme::margin);
+    all->setSpacing(theme::margin);
+    all->addWidget(new ScrollPanel(body, this), 1);
+    all->addLayout(makeButtons());
+    resize(sizeHint().boundedTo(screen()->availableSize() - QSize(16, 40)));
 }
 
 QLabel *ChancesDialog::makeLabel(const char *name, const std::string &text) {
     auto *label = new QLabel(linesToQt(text), this);
     label->setObjectName(QString::fromLatin1(name));
+    label->setWordWrap(true);
     label->setTextInteractionFlags(Qt::TextSelectableByMouse);
     return label;
 }
@@ -63,7 +71,6 @@ ReportView *ChancesDialog::makeList(const char *name, const char *accessibleName
     auto *view = new ReportView(list, this);
     view->setObjectName(QString::fromLatin1(name));
     view->setAccessibleName(QString::fromUtf8(accessibleName));
-    view->keepAllColumnsVisible();
     const int header = view->header()->sizeHint().height() + 2 * view->frameWidth();
     view->setMinimumHeight(header + std::min(rows, fewestRows) * view->rowHeight());
     view->setMaximumHeight(header + rows * view->rowHeight() + 2);

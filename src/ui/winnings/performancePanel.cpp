@@ -3,7 +3,6 @@
 
 #include "ui/winnings/performancePanel.h"
 
-#include "ui/style/iconLoader.h"
 #include "ui/style/theme.h"
 #include "ui/widgets/qtText.h"
 #include "ui/widgets/toolbar.h"
@@ -61,13 +60,12 @@ QWidget *PerformancePanel::makeToolbar() {
     };
     return boulix::makeToolbar(
         QStringLiteral("tbarPerfo"), buttons, [this](int button) { page_.clickPerfo(button); },
-        this);
+        this, ToolbarLook::slim);
 }
 
 void PerformancePanel::addDateButtons() {
     for (std::size_t i = 0; i < cmdPerfDate.size(); ++i) {
-        cmdPerfDate[i] =
-            new QPushButton(loadIcon(QStringLiteral("calendar")), QStringLiteral("Dates"), this);
+        cmdPerfDate[i] = new QPushButton(QStringLiteral("Dates"), this);
         cmdPerfDate[i]->setObjectName(QStringLiteral("cmdPerfDate_%1").arg(i));
         cmdPerfDate[i]->setAccessibleName(QStringLiteral("Dates des gains, rang %1").arg(i + 1));
         cmdPerfDate[i]->setToolTip(QStringLiteral("Voir les dates des gains de ce rang"));

@@ -14,7 +14,7 @@ namespace boulix::rankTable {
 QGridLayout *make(QWidget &table, const QStringList &headers) {
     auto *grid = new QGridLayout(&table);
     grid->setContentsMargins(0, 0, 0, 0);
-    grid->setHorizontalSpacing(theme::margin);
+    grid->setHorizontalSpacing(theme::gap);
     grid->setVerticalSpacing(theme::gap / 2);
     grid->setColumnStretch(0, 1);
     // Rows without a button or a box are still apart enough to be followed with the eye.
@@ -26,6 +26,7 @@ QGridLayout *make(QWidget &table, const QStringList &headers) {
         if (column > 0)
             grid->setColumnMinimumWidth(column, numbers);
         auto *header = new QLabel(headers[column], &table);
+        header->setWordWrap(true); // in a narrow window two lines
         header->setForegroundRole(QPalette::PlaceholderText);
         header->setAlignment((column == 0 ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
         grid->addWidget(header, 0, column);

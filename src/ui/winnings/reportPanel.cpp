@@ -46,7 +46,8 @@ QWidget *ReportPanel::makeToolbar() {
          {}},
     };
     return boulix::makeToolbar(
-        QStringLiteral("tbarRapp"), buttons, [this](int button) { page_.clickRapp(button); }, this);
+        QStringLiteral("tbarRapp"), buttons, [this](int button) { page_.clickRapp(button); }, this,
+        ToolbarLook::slim);
 }
 
 void ReportPanel::addBoxes() {

@@ -7,7 +7,9 @@
 #include "ui/games/gameListDialog.h"
 #include "ui/games/optimiserDialog.h"
 #include "ui/style/theme.h"
+#include "ui/widgets/fittingTabs.h"
 #include "ui/widgets/reportView.h"
+#include "ui/widgets/scrollPanel.h"
 #include "ui/widgets/toolbar.h"
 #include "ui/winnings/winningsPanels.h"
 
@@ -15,8 +17,6 @@
 #include <QCheckBox>
 #include <QHBoxLayout>
 #include <QMenu>
-#include <QTabBar>
-#include <QTabWidget>
 #include <QToolBar>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -27,12 +27,12 @@ GameTab::GameTab(gamePage &page, winningsPage &winnings, QWidget *parent)
     : QWidget(parent), page_(page), tbarGame(makeToolbar()),
       lvwGame(new ReportView(page.lvwGame, this)),
       chkUpdateList(new QCheckBox(QStringLiteral("&Mise à jour de la liste"), this)),
-      TabGame(new QTabWidget(this)), design_(new GameDesignPanel(page.design, this)),
+      TabGame(new FittingTabs(this)), design_(new GameDesignPanel(page.design, this)),
       winnings_(new WinningsPanels(winnings, this)) {
     makePrintMenu();
     auto *below = new QHBoxLayout;
     below->setContentsMargins(theme::margin, 0, theme::margin, theme::margin);
-    below->setSpacing(2 * theme::margin);
+    below->setSpacing(theme::margin);
     below->addWidget(makeGame());
     below->addWidget(makeSides(winnings), 1);
     auto *column = new QVBoxLayout(this);
@@ -87,7 +87,6 @@ QWidget *GameTab::makeGame() {
     lvwGame->setObjectName(QStringLiteral("lvwGame"));
     lvwGame->setAccessibleName(QStringLiteral("Grilles du jeu courant"));
     lvwGame->setSelectionMode(QAbstractItemView::ExtendedSelection);
-    lvwGame->keepAllColumnsVisible();
     chkUpdateList->setObjectName(QStringLiteral("chkUpdateList"));
     chkUpdateList->setToolTip(QStringLiteral("Garder la liste des grilles à jour"));
     connect(chkUpdateList, &QCheckBox::clicked, this,
@@ -103,11 +102,13 @@ QWidget *GameTab::makeGame() {
 QWidget *GameTab::makeSides(winningsPage &winnings) {
     TabGame->setObjectName(QStringLiteral("TabGame"));
     TabGame->setDocumentMode(true);
-    TabGame->setUsesScrollButtons(false);
-    TabGame->setElideMode(Qt::ElideNone);
     addSide(winnings_->verification(), QStringLiteral("&Vérifications"));
     addSide(winnings_->performance(), QStringLiteral("&Performances"));
     addSide(winnings_->report(), QStringLiteral("&Rapports"));
+    // In a wide window an amount still stands near what it is the amount of.
+    for (QWidget *table :
+         {winnings_->verification(), winnings_->performance(), winnings_->report()})
+        table->setMaximumWidth(fontMetrics().averageCharWidth() * 100);
     addSide(design_, QStringLiteral("Jeu&x"));
     connect(TabGame, &QTabWidget::currentChanged, this, [this, &winnings](int index) {
         winnings.clickSubTab(index);
@@ -122,7 +123,7 @@ void GameTab::addSide(QWidget *side, const QString &caption) {
     frame->setObjectName(QStringLiteral("frameGameTab_%1").arg(TabGame->count()));
     auto *column = new QVBoxLayout(frame);
     column->setContentsMargins(0, theme::gap, 0, 0);
-    column->addWidget(side);
+    column->addWidget(new ScrollPanel(side, frame));
     TabGame->addTab(frame, caption);
 }
 

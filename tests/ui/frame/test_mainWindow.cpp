@@ -14,6 +14,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QScreen>
 #include <QStatusBar>
 #include <QTabBar>
 #include <QTabWidget>
@@ -49,11 +50,12 @@ TEST_F(MainWindowTest, ItOpensOnTheDatabasePageWithAnEmptyBase) {
     EXPECT_EQ(visibleWindow(QStringLiteral("frmSplash")), nullptr);
 }
 
-TEST_F(MainWindowTest, ItIsAsWideAndAsHighAsItAlwaysWasInTodaysPixels) {
-    constexpr double pixelsPerTwip = 1.35 / 15;
+TEST_F(MainWindowTest, ItIsAsWideAndAsHighAsItAlwaysWasInTodaysPixelsWhereTheScreenHasTheRoom) {
+    constexpr double pixelsPerTwip = 1.5 / 15;
+    constexpr QSize frameRoom{16, 40};
     const MainWindow &window = start();
     const QSize told = QSize(8685, 7560) * pixelsPerTwip;
-    EXPECT_EQ(window.size(), told.expandedTo(window.minimumSizeHint()));
+    EXPECT_EQ(window.size(), told.boundedTo(window.screen()->availableSize() - frameRoom));
 }
 
 TEST_F(MainWindowTest, ThereAreSixTabsWithTheirToolTipsAndIcons) {

@@ -1,8 +1,9 @@
 // SPDX-FileCopyrightText: The Boulix developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Pictures of every window, for the eye: `boulix_gallery FOLDER [dark]`. QT_SCALE_FACTOR and
-// QT_QPA_PLATFORM=offscreen are the environment's to set.
+// Pictures of every window, for the eye: `boulix_gallery FOLDER [dark] [WIDTHxHEIGHT]`, with a size
+// those of the pages alone. QT_SCALE_FACTOR and QT_QPA_PLATFORM=offscreen are the environment's
+// to set.
 
 #include "core/globals.h"
 #include "core/platform.h"
@@ -172,12 +173,19 @@ int main(int argc, char **argv) {
         return 64;
     if (arguments.contains(QStringLiteral("dark")))
         Application::setPalette(theme::darkPalette());
+    const QStringList size = arguments.last().split(QLatin1Char('x'));
+    const bool sized = size.size() == 2 && size[0].toInt() > 0 && size[1].toInt() > 0;
+    keepMainWindow();
+    if (sized) {
+        keepPlacesAt({size[0].toInt(), size[1].toInt()});
+        resetGlobals();
+        return 0;
+    }
     keepBoards();
     keepDialogs();
     keepIdentity();
     keepHelp();
     keepList();
-    keepMainWindow();
     keepStatistics();
     keepForecasts();
     keepGames();

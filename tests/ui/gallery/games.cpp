@@ -17,6 +17,7 @@
 #include "ui/games/gameListDialog.h"
 #include "ui/games/optimiserDialog.h"
 #include "ui/games/randomCombDialog.h"
+#include "ui/support/places.h"
 #include "ui/winnings/chancesDialog.h"
 #include "ui/winnings/winDateDialog.h"
 #include "ui/workbench/mainParts.h"
@@ -81,6 +82,21 @@ void keepPages() {
     keep(window, QStringLiteral("winnings-smallest"));
 }
 
+/// All places of the main window at one size.
+void keepPlaces(const QSize &size) {
+    mainWindow->statistics.pickType(1);
+    mainWindow->statistics.clickButton(statisticsPage::computeType);
+    mainWindow->forecasts.clickButton(forecastPage::computePoints);
+    MainWindow window(*mainWindow, mainParts());
+    mainWindow->winnings.clickPerfo(winningsPage::checkBase);
+    int number = 0;
+    for (const testing_support::Place &place : testing_support::placesOfMainWindow()) {
+        place.goThere(window);
+        window.resize(size);
+        keep(window, QStringLiteral("place-%1").arg(++number, 2, 10, QLatin1Char('0')));
+    }
+}
+
 void keepDialogs() {
     frmGameList list;
     GameListDialog listDialog(list);
@@ -141,4 +157,9 @@ void keepGames() {
     keepPages();
     keepDialogs();
     keepChances();
+}
+
+void keepPlacesAt(const QSize &size) {
+    makeGames();
+    keepPlaces(size);
 }

@@ -3,6 +3,7 @@
 
 #pragma once
 
+class QSize;
 class QString;
 class QWidget;
 
@@ -12,5 +13,6 @@ void keep(QWidget &window, const QString &name);
 void keepForecasts();
 void keepGames();
 void keepGraph();
+void keepPlacesAt(const QSize &size);
 void keepPrintWindows();
 void keepStatistics();

@@ -4,8 +4,12 @@
 #include "ui/support/clipping.h"
 
 #include <QAbstractButton>
+#include <QAbstractSpinBox>
 #include <QHeaderView>
 #include <QLabel>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QStyle>
 #include <QTabBar>
 #include <QWidget>
 
@@ -33,10 +37,14 @@ bool buttonClipped(const QAbstractButton &button) {
 }
 
 bool tabsClipped(const QTabBar &bar) {
-    for (int tab = 0; tab < bar.count(); ++tab)
-        if (!bar.rect().contains(bar.tabRect(tab)))
+    const int room = bar.style()->pixelMetric(QStyle::PM_TabBarTabHSpace, nullptr, &bar);
+    for (int tab = 0; tab < bar.count(); ++tab) {
+        const QSize text = bar.fontMetrics().size(Qt::TextShowMnemonic, bar.tabText(tab));
+        const QRect rect = bar.tabRect(tab);
+        if (!bar.rect().contains(rect) || rect.width() < text.width() + room)
             return true;
-    return bar.sizeHint().width() > bar.width();
+    }
+    return bar.minimumSizeHint().width() > bar.width();
 }
 
 bool headerClipped(const QHeaderView &header) {
@@ -55,15 +63,30 @@ bool textClipped(const QWidget &control) {
         return tabsClipped(*bar);
     if (const auto *header = qobject_cast<const QHeaderView *>(&control))
         return headerClipped(*header);
+    if (qobject_cast<const QAbstractSpinBox *>(control.parentWidget()))
+        return false; // its line edit: the spin box has its own measure
     const QSize least = control.minimumSizeHint();
     return least.width() > control.width() || least.height() > control.height();
+}
+
+/// Whether the scroll bar leads to all of what the area holds. Only the height may be scrolled.
+bool canBeScrolledThrough(const QScrollArea &area) {
+    const QScrollBar &bar = *area.verticalScrollBar();
+    const int reached = bar.maximum() + area.viewport()->height();
+    return area.widget()->width() <= area.viewport()->width() &&
+           area.widget()->height() <= reached && (bar.maximum() == 0 || bar.isVisible());
 }
 
 /// Whether the control leaves its parent. What scrolls may.
 bool sticksOut(const QWidget &control) {
     const QWidget *parent = control.parentWidget();
-    const bool scrolls = control.objectName().startsWith(QLatin1String("picInfo_"));
-    return parent && !scrolls && !parent->rect().contains(control.geometry());
+    const bool climbs = control.objectName().startsWith(QLatin1String("picInfo_"));
+    if (!parent || climbs)
+        return false;
+    const auto *area = qobject_cast<const QScrollArea *>(parent->parentWidget());
+    if (area && area->widget() == &control)
+        return !canBeScrolledThrough(*area);
+    return !parent->rect().contains(control.geometry());
 }
 
 } // namespace
