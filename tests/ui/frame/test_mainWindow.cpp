@@ -157,6 +157,7 @@ TEST_F(MainWindowTest, WhatWasDoneStandsBehindThePanelsHoweverNarrowTheWindowIs)
 TEST_F(MainWindowTest, AFailureOfABoxGivesItTheFocusWithItsTextSelected) {
     MainWindow &window = start();
     clickTab(window, 3);
+    mainWindow->elimination.tick(0, true); // only then the box takes text
     auto &box = control<QLineEdit>(window, "txtEliminator_0");
     box.setText(QStringLiteral("abc"));
     desktop->focusField(box.objectName().toStdString());
