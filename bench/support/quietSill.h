@@ -19,12 +19,15 @@ class QuietDesktop : public Desktop {
 
     void showMessage(const std::string &, Icon, const std::string &) override {}
     bool askYesNo(const std::string &, Icon, const std::string &) override { return false; }
+    bool askToErase(const std::string &text, Icon icon, const std::string &title) override {
+        return askYesNo(text, icon, title);
+    }
     std::size_t askChoice(const std::string &, Icon, const std::string &,
                           const std::vector<std::string> &answers) override {
         return answers.size() - 1;
     }
     std::optional<std::string> askText(const std::string &, const std::string &,
-                                       std::size_t) override {
+                                       const std::string &, std::size_t) override {
         return std::nullopt;
     }
     void announce(const std::string &) override {}

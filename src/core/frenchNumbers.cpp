@@ -79,4 +79,12 @@ std::string amountText(double amount) {
     return commaNumber(amount, size < 0.1 ? decimalsOfSmall(size) : 2);
 }
 
+std::string amountWithUnit(double amount, const std::string &unit) {
+    std::string text = amountText(amount) + " " + unit;
+    const bool word = unit.size() > 1 && unit.back() >= 'a' && unit.back() <= 'z';
+    if (std::abs(amount) >= 2 && word && std::string("sxz").find(unit.back()) == std::string::npos)
+        text += "s";
+    return text;
+}
+
 } // namespace boulix

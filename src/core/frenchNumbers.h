@@ -26,4 +26,8 @@ std::string oneInText(std::uint64_t part, std::uint64_t all);
 /// An amount of money: whole, with cents, or below one with three digits that say something.
 std::string amountText(double amount);
 
+/// The same with the unit behind it: "2 euros", "1,50 euro", "3 €". From two on a unit that is a
+/// word takes an s, unless it ends in s, x or z.
+std::string amountWithUnit(double amount, const std::string &unit);
+
 } // namespace boulix

@@ -38,6 +38,8 @@ class eliminator {
     std::int16_t eliminNbr(int index) const;
     void eliminNbr(int index, std::int16_t word);
 
+    bool operator==(const eliminator &) const = default;
+
   private:
     std::array<std::int16_t, lastNumber> flags_{};
     std::string label_;

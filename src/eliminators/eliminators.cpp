@@ -101,21 +101,29 @@ void eliminators::clear() {
     keys_.clear();
 }
 
-bool eliminators::verify() const {
-    for (std::size_t i = 0; i < rules_.size() && i + 1 < listRule; ++i) {
-        const eliminator &rule = rules_[i];
+int eliminators::firstOutOfRange() const {
+    for (int index = 1; index < listRule && index <= Count(); ++index) {
+        const eliminator &rule = Item(index);
         const bool inRange = rule.Value() >= rule.ValMin() && rule.Value() <= rule.ValMax();
-        if (rule.status() != eliminator::off && !inRange) {
-            reportRange(i, rule.ValMin(), rule.ValMax());
-            return false;
-        }
+        if (rule.status() != eliminator::off && !inRange)
+            return index;
     }
-    return true;
+    return 0;
+}
+
+bool eliminators::verify() const {
+    const int index = firstOutOfRange();
+    if (index == 0)
+        return true;
+    const eliminator &rule = Item(index);
+    reportRange(static_cast<std::size_t>(index - 1), rule.ValMin(), rule.ValMax());
+    return false;
 }
 
 bool eliminators::save() {
     const std::string name =
-        modFileSelector::saveDialog(fileFilter, "Sauvegarde d'un fichier éliminateur");
+        modFileSelector::saveDialog(fileFilter, "Sauvegarde d'un fichier éliminateur",
+                                    file_.name().empty() ? "eliminateurs.elm" : file_.name());
     if (name.empty())
         return false;
     file_.fullName(name);

@@ -48,6 +48,9 @@ class eliminators {
     bool isOn(int index) const {
         return index <= Count() && Item(index).status() != eliminator::off;
     }
+    /// The first rule, by its position, that is on and whose threshold lies beyond its range; 0
+    /// where there is none. The list rule is not looked at.
+    int firstOutOfRange() const;
     /// Whether the threshold of every active rule lies in its range. The first one that does not
     /// is reported with its number, 2901 to 2907. The list rule is not checked.
     bool verify() const;

@@ -27,15 +27,16 @@ std::string openDialog(const std::string &filter, const std::string &title) {
     return remembered(desktop().openFile({filter, title, modMain::gCurrentDir}));
 }
 
-std::string saveDialog(const std::string &filter, const std::string &title) {
-    return remembered(desktop().saveFile({filter, title, modMain::gCurrentDir}));
+std::string saveDialog(const std::string &filter, const std::string &title,
+                       const std::string &name) {
+    return remembered(desktop().saveFile({filter, title, modMain::gCurrentDir, name}));
 }
 
 bool mayReplace(const xFile &file, const std::string &boxTitle) {
     return !file.exist() ||
-           desktop().askYesNo("Le fichier " + file.name() +
-                                  " existe déjà. Etes-vous sûr de vouloir le remplacer?",
-                              Icon::question, boxTitle);
+           desktop().askToErase("Le fichier " + file.name() +
+                                    " existe déjà. Etes-vous sûr de vouloir le remplacer?",
+                                Icon::question, boxTitle);
 }
 
 } // namespace boulix::modFileSelector

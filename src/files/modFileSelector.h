@@ -13,9 +13,10 @@ namespace boulix::modFileSelector {
 
 /// Ask the user for a file, in the folder of the last one chosen. `filter` has the form
 /// "Fichier jeu Boulix (*.lst)|*.lst". The full file name, empty when none was chosen; a chosen
-/// file's folder becomes the one where the next dialog opens.
+/// file's folder becomes the one where the next dialog opens. A save dialog proposes `name`.
 std::string openDialog(const std::string &filter, const std::string &title);
-std::string saveDialog(const std::string &filter, const std::string &title);
+std::string saveDialog(const std::string &filter, const std::string &title,
+                       const std::string &name = {});
 
 /// The question before a whole file is replaced: true when `file` is not there, or when the user
 /// says that it may be replaced.

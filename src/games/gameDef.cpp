@@ -34,9 +34,10 @@ void gameDef::addStrComb(const std::string &text) {
 }
 
 void gameDef::rename() {
-    label_ = desktop()
-                 .askText("Donnez le nouveau nom du jeu", "Définition du nom du jeu", maxLabel)
-                 .value_or("");
+    label_ =
+        desktop()
+            .askText("Donnez le nouveau nom du jeu", "Définition du nom du jeu", label_, maxLabel)
+            .value_or("");
     save(-1, -1);
 }
 

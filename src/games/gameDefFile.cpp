@@ -50,6 +50,11 @@ xFile &fileOf(const std::shared_ptr<xFile> &file) {
     return *file;
 }
 
+/// What a text export of the definition in the file `name` may be called.
+std::string exportName(const std::string &name) {
+    return name.substr(0, name.rfind('.')) + ".txt";
+}
+
 std::string textRecord(const std::string &text) {
     const std::string bytes = toWestern(text);
     if (bytes.size() > gameDef::maxLabel)
@@ -191,7 +196,8 @@ bool gameDef::load() {
 bool gameDef::exportText() const {
     const std::string name =
         modFileSelector::saveDialog("Fichier texte (modèle de jeu Boulix) (*.txt)|*.txt",
-                                    "Exportation d'un modèle de jeu au format texte");
+                                    "Exportation d'un modèle de jeu au format texte",
+                                    file_ ? exportName(file_->name()) : "systeme.txt");
     if (name.empty())
         return false;
     std::string text = toWestern(label_) + crlf;

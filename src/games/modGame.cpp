@@ -156,8 +156,8 @@ bool addUserGame(const gameDef &source, GameList &list) {
     def.nCond(source.nCond());
     def.nSelect(source.nSelect());
     def.nFixed(source.nFixed());
-    const auto name =
-        desktop().askText("Donnez le nom du jeu", "Définition du nom du jeu", gameDef::maxLabel);
+    const auto name = desktop().askText("Donnez le nom du jeu", "Définition du nom du jeu", "",
+                                        gameDef::maxLabel);
     def.label(name.value_or(""));
     list.push_back(def);
     return true;

@@ -22,7 +22,8 @@ enum class Icon { none, information, question, critical };
 struct FileQuestion {
     std::string filter;
     std::string title;
-    std::string folder; ///< where the dialog opens
+    std::string folder;    ///< where the dialog opens
+    std::string name = {}; ///< the name that a save dialog proposes
 };
 
 /// The answer of the date dialog.
@@ -51,13 +52,16 @@ class Desktop {
     virtual void showMessage(const std::string &text, Icon icon, const std::string &title) = 0;
     /// A box with yes and no; true for yes.
     virtual bool askYesNo(const std::string &text, Icon icon, const std::string &title) = 0;
+    /// The same before something is erased: Enter chooses no.
+    virtual bool askToErase(const std::string &text, Icon icon, const std::string &title) = 0;
     /// A box with a button for each of `answers`; the index of the one chosen. The last one is
     /// what Enter, Escape and the close box of the window choose.
     virtual std::size_t askChoice(const std::string &text, Icon icon, const std::string &title,
                                   const std::vector<std::string> &answers) = 0;
-    /// A box with one line to fill in, which takes no more than `maxLength` characters; nothing
-    /// when it was cancelled.
+    /// A box with one line to fill in, which holds `present` at first, selected, and takes no more
+    /// than `maxLength` characters; nothing when it was cancelled.
     virtual std::optional<std::string> askText(const std::string &prompt, const std::string &title,
+                                               const std::string &present,
                                                std::size_t maxLength) = 0;
 
     /// Says in the status bar of the main window, behind its panels, what was done. It stands there

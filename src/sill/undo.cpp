@@ -15,6 +15,12 @@ void UndoList::record(UndoStep step) {
     notify();
 }
 
+void UndoList::clear() {
+    done_.clear();
+    undone_.clear();
+    notify();
+}
+
 void UndoList::undo() {
     exchange(done_, undone_);
 }

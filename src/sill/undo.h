@@ -29,6 +29,9 @@ class UndoList {
     /// A command was carried out. What was taken back before can no longer be done again.
     void record(UndoStep step);
 
+    /// Forgets all of them.
+    void clear();
+
     bool canUndo() const { return !done_.empty(); }
     bool canRedo() const { return !undone_.empty(); }
     /// The name of the command that `undo` takes back, and that `redo` does again; empty where

@@ -23,15 +23,6 @@ std::string meanText(double mean) {
                                     : commaNumber(mean, mean < 0.001 ? 9 : 4);
 }
 
-/// "2 euros": from two on, where the unit is a word that takes an s.
-std::string withUnit(double amount, const std::string &unit) {
-    std::string text = amountText(amount) + " " + unit;
-    const bool word = unit.size() > 1 && unit.back() >= 'a' && unit.back() <= 'z';
-    if (std::abs(amount) >= 2 && word && std::string("sxz").find(unit.back()) == std::string::npos)
-        text += "s";
-    return text;
-}
-
 void show(reportList &list, const std::vector<std::vector<std::string>> &lines) {
     list.rows(std::ssize(lines), [&lines](std::int64_t row, int column) {
         return lines[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)];
@@ -78,8 +69,8 @@ void frmChances::fillRanks(const GameChances &chances) {
 }
 
 void frmChances::fillMoney(const GameChances &chances, const std::string &unit) {
-    const std::string stake = withUnit(chances.stake(), unit);
-    const std::string gives = withUnit(chances.meanReturn(), unit);
+    const std::string stake = amountWithUnit(chances.stake(), unit);
+    const std::string gives = amountWithUnit(chances.meanReturn(), unit);
     lblStake = stake;
     lblReturn = gives + " par tirage";
     const auto part = chances.returnPart();

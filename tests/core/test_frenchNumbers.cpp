@@ -57,5 +57,14 @@ TEST(FrenchNumbers, AmountsAreWholeOrHaveCents) {
     EXPECT_EQ(amountText(0.00123), "0,00123");
 }
 
+TEST(FrenchNumbers, AUnitThatIsAWordTakesAnSFromTwoOn) {
+    EXPECT_EQ(amountWithUnit(1.5, "euro"), "1,50 euro");
+    EXPECT_EQ(amountWithUnit(2, "euro"), "2 euros");
+    EXPECT_EQ(amountWithUnit(-2, "euro"), "-2 euros");
+    EXPECT_EQ(amountWithUnit(30, "€"), "30 €");
+    EXPECT_EQ(amountWithUnit(30, "F"), "30 F");
+    EXPECT_EQ(amountWithUnit(30, "francs"), "30 francs");
+}
+
 } // namespace
 } // namespace boulix

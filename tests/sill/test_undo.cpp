@@ -108,5 +108,15 @@ TEST_F(Undo, TheNewestStepStaysHoweverMuchMemoryItHolds) {
     EXPECT_FALSE(list.canUndo());
 }
 
+TEST_F(Undo, AClearedListKnowsNoStep) {
+    change("un", 1);
+    change("deux", 2);
+    list.undo();
+    list.clear();
+    EXPECT_FALSE(list.canUndo());
+    EXPECT_FALSE(list.canRedo());
+    EXPECT_EQ(value, 1) << "what was done stays done";
+}
+
 } // namespace
 } // namespace boulix

@@ -83,6 +83,11 @@ bool ScriptedDesktop::askYesNo(const std::string &text, Icon icon, const std::st
     return nextAnswer(yesNo_, "the question \"" + text + "\"", false);
 }
 
+bool ScriptedDesktop::askToErase(const std::string &text, Icon icon, const std::string &title) {
+    erasing.push_back({text, icon, title});
+    return askYesNo(text, icon, title);
+}
+
 std::size_t ScriptedDesktop::askChoice(const std::string &text, Icon icon, const std::string &title,
                                        const std::vector<std::string> &answers) {
     choices.push_back({{text, icon, title}, answers});
@@ -91,7 +96,9 @@ std::size_t ScriptedDesktop::askChoice(const std::string &text, Icon icon, const
 
 std::optional<std::string> ScriptedDesktop::askText(const std::string &prompt,
                                                     const std::string &title,
+                                                    const std::string &present,
                                                     std::size_t maxLength) {
+    presentTexts.push_back(present);
     inputs.push_back({prompt, Icon::none, title});
     inputLengths.push_back(maxLength);
     return nextAnswer<std::optional<std::string>>(texts_, "the input box \"" + prompt + "\"",

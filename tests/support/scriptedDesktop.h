@@ -55,7 +55,9 @@ class ScriptedDesktop : public Desktop {
     std::vector<ShownBox> messages;
     std::vector<ShownBox> questions;
     std::vector<ShownChoice> choices;
+    std::vector<ShownBox> erasing; ///< those of the questions that Enter answers with no
     std::vector<ShownBox> inputs;
+    std::vector<std::string> presentTexts; ///< what stood in each input box at first
     std::vector<std::size_t> inputLengths; ///< how many characters each input box would take
     std::vector<FileQuestion> openQuestions;
     std::vector<FileQuestion> saveQuestions;
@@ -101,10 +103,11 @@ class ScriptedDesktop : public Desktop {
 
     void showMessage(const std::string &text, Icon icon, const std::string &title) override;
     bool askYesNo(const std::string &text, Icon icon, const std::string &title) override;
+    bool askToErase(const std::string &text, Icon icon, const std::string &title) override;
     std::size_t askChoice(const std::string &text, Icon icon, const std::string &title,
                           const std::vector<std::string> &answers) override;
     std::optional<std::string> askText(const std::string &prompt, const std::string &title,
-                                       std::size_t maxLength) override;
+                                       const std::string &present, std::size_t maxLength) override;
     void announce(const std::string &text) override { announcements.push_back(text); }
     void focusField(const std::string &name) override { focusedFields.push_back(name); }
     std::string openFile(const FileQuestion &question) override;

@@ -104,6 +104,8 @@ std::string save(QWidget *parent, const FileQuestion &question) {
     dialog.setFileMode(QFileDialog::AnyFile);
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
     dialog.setDefaultSuffix(onlyExtension(question.filter));
+    if (!question.name.empty())
+        dialog.selectFile(toQt(question.name));
     while (true) {
         const QString file = chosenFile(dialog);
         const QString folder = QFileInfo(file).absolutePath();

@@ -32,10 +32,12 @@ QMessageBox::Icon qtIcon(Icon icon) {
 
 QMessageBox::StandardButton runMessageBox(QWidget *parent, const std::string &text, Icon icon,
                                           const std::string &title,
-                                          QMessageBox::StandardButtons buttons) {
+                                          QMessageBox::StandardButtons buttons,
+                                          QMessageBox::StandardButton enter) {
     QMessageBox box(qtIcon(icon), toQt(title), linesToQt(text), buttons, parent);
     box.setObjectName(QStringLiteral("messageBox"));
     box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(enter);
     return static_cast<QMessageBox::StandardButton>(box.exec());
 }
 

@@ -10,10 +10,11 @@
 namespace boulix {
 
 /// Shows a message box with plain text and gives the button that it was left by; Escape is the
-/// button that refuses.
-QMessageBox::StandardButton runMessageBox(QWidget *parent, const std::string &text, Icon icon,
-                                          const std::string &title,
-                                          QMessageBox::StandardButtons buttons = QMessageBox::Ok);
+/// button that refuses, Enter the `enter` one, or the first where none is named.
+QMessageBox::StandardButton
+runMessageBox(QWidget *parent, const std::string &text, Icon icon, const std::string &title,
+              QMessageBox::StandardButtons buttons = QMessageBox::Ok,
+              QMessageBox::StandardButton enter = QMessageBox::NoButton);
 
 /// Shows a message box with a button for each of `answers`, whose first letters differ and are
 /// their mnemonics, and gives the index of the one chosen. Enter, Escape and the close box choose

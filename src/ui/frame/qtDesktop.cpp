@@ -21,12 +21,21 @@
 #include <QFileInfo>
 #include <QInputDialog>
 #include <QLineEdit>
+#include <QTabWidget>
 
 namespace boulix {
 
 namespace {
 
 using namespace std::chrono_literals;
+
+/// Brings the tab pages that a control stands on to the front.
+void showPageOf(QWidget &control) {
+    for (QWidget *page = &control; QWidget *parent = page->parentWidget(); page = parent)
+        if (parent->parentWidget())
+            if (auto *tabs = qobject_cast<QTabWidget *>(parent->parentWidget()))
+                tabs->setCurrentWidget(page);
+}
 
 constexpr auto eventsEvery = 16ms;
 /// A job that is done sooner shows no progress window: it would only flicker.
@@ -49,19 +58,27 @@ bool QtDesktop::askYesNo(const std::string &text, Icon icon, const std::string &
     return runMessageBox(parentForDialog(), text, icon, title, buttons) == QMessageBox::Yes;
 }
 
+bool QtDesktop::askToErase(const std::string &text, Icon icon, const std::string &title) {
+    const auto buttons = QMessageBox::Yes | QMessageBox::No;
+    return runMessageBox(parentForDialog(), text, icon, title, buttons, QMessageBox::No) ==
+           QMessageBox::Yes;
+}
+
 std::size_t QtDesktop::askChoice(const std::string &text, Icon icon, const std::string &title,
                                  const std::vector<std::string> &answers) {
     return runChoiceBox(parentForDialog(), text, icon, title, answers);
 }
 
 std::optional<std::string> QtDesktop::askText(const std::string &prompt, const std::string &title,
-                                              std::size_t maxLength) {
+                                              const std::string &present, std::size_t maxLength) {
     QInputDialog dialog(parentForDialog());
     dialog.setObjectName(QStringLiteral("inputBox"));
     dialog.setWindowTitle(toQt(title));
     dialog.setLabelText(linesToQt(prompt));
-    dialog.setTextValue({}); // the line exists from here on
-    dialog.findChild<QLineEdit *>()->setMaxLength(static_cast<int>(maxLength));
+    dialog.setTextValue(toQt(present)); // the line exists from here on
+    auto *line = dialog.findChild<QLineEdit *>();
+    line->setMaxLength(static_cast<int>(maxLength));
+    line->selectAll();
     if (dialog.exec() != QDialog::Accepted)
         return std::nullopt;
     return fromQt(dialog.textValue());
@@ -77,6 +94,7 @@ void QtDesktop::focusField(const std::string &name) {
     auto *box = front ? front->findChild<QWidget *>(toQt(name)) : nullptr;
     if (!box)
         return;
+    showPageOf(*box);
     box->setFocus(Qt::OtherFocusReason);
     if (auto *line = qobject_cast<QLineEdit *>(box))
         line->selectAll();

@@ -29,10 +29,11 @@ class QtDesktop : public Desktop {
 
     void showMessage(const std::string &text, Icon icon, const std::string &title) override;
     bool askYesNo(const std::string &text, Icon icon, const std::string &title) override;
+    bool askToErase(const std::string &text, Icon icon, const std::string &title) override;
     std::size_t askChoice(const std::string &text, Icon icon, const std::string &title,
                           const std::vector<std::string> &answers) override;
     std::optional<std::string> askText(const std::string &prompt, const std::string &title,
-                                       std::size_t maxLength) override;
+                                       const std::string &present, std::size_t maxLength) override;
 
     void announce(const std::string &text) override;
     void focusField(const std::string &name) override;

@@ -89,6 +89,31 @@ TEST_F(DialogsTest, EscapeOnAQuestionMeansNo) {
     EXPECT_FALSE(desktop->askYesNo("Sûr?", Icon::question, "boulix"));
 }
 
+TEST_F(DialogsTest, EnterOnAQuestionMeansYesButNotWhereSomethingIsErased) {
+    robot.in("messageBox", [](QWidget &) { press(Qt::Key_Return); });
+    EXPECT_TRUE(desktop->askYesNo("Sûr?", Icon::question, "boulix"));
+    robot.in("messageBox", [](QWidget &) { press(Qt::Key_Return); });
+    EXPECT_FALSE(desktop->askToErase("Sûr?", Icon::question, "boulix"));
+    robot.in("messageBox", [](QWidget &window) {
+        auto &box = dynamic_cast<QMessageBox &>(window);
+        EXPECT_EQ(box.text().toStdString(), "Sûr?");
+        EXPECT_EQ(box.icon(), QMessageBox::Question);
+        EXPECT_EQ(box.buttons().size(), 2);
+        click(*box.button(QMessageBox::Yes));
+    });
+    EXPECT_TRUE(desktop->askToErase("Sûr?", Icon::question, "boulix"));
+}
+
+TEST_F(DialogsTest, TheInputBoxBeginsWithThePresentTextWhichTypingReplaces) {
+    robot.in("inputBox", [](QWidget &) { press(Qt::Key_Return); });
+    EXPECT_EQ(desktop->askText("Nom du jeu", "Boulix", "Dimanche", 126), "Dimanche");
+    robot.in("inputBox", [](QWidget &window) {
+        QTest::keyClicks(window.findChild<QLineEdit *>(), QStringLiteral("Lundi"));
+        press(Qt::Key_Return);
+    });
+    EXPECT_EQ(desktop->askText("Nom du jeu", "Boulix", "Dimanche", 126), "Lundi");
+}
+
 TEST_F(DialogsTest, TheInputBoxGivesWhatWasTypedAndNothingWhenCancelled) {
     robot.in("inputBox", [](QWidget &window) {
         auto &box = dynamic_cast<QInputDialog &>(window);
@@ -96,9 +121,9 @@ TEST_F(DialogsTest, TheInputBoxGivesWhatWasTypedAndNothingWhenCancelled) {
         box.setTextValue(QStringLiteral("été à l'œuvre"));
         press(Qt::Key_Return);
     });
-    EXPECT_EQ(desktop->askText("Nom du jeu", "Boulix", 126), "été à l'œuvre");
+    EXPECT_EQ(desktop->askText("Nom du jeu", "Boulix", "", 126), "été à l'œuvre");
     robot.in("inputBox", [](QWidget &) { press(Qt::Key_Escape); });
-    EXPECT_EQ(desktop->askText("Nom du jeu", "Boulix", 126), std::nullopt);
+    EXPECT_EQ(desktop->askText("Nom du jeu", "Boulix", "", 126), std::nullopt);
 }
 
 TEST_F(DialogsTest, TheInputBoxTakesNoMoreCharactersThanItWasGiven) {
@@ -110,7 +135,7 @@ TEST_F(DialogsTest, TheInputBoxTakesNoMoreCharactersThanItWasGiven) {
         QTest::keyClick(&line, Qt::Key_X);
         press(Qt::Key_Return);
     });
-    EXPECT_EQ(desktop->askText("Nom du jeu", "Boulix", 126),
+    EXPECT_EQ(desktop->askText("Nom du jeu", "Boulix", "", 126),
               QString(126, QChar(0xE9)).toStdString());
 }
 

@@ -37,10 +37,16 @@ bool PlayerDesktop::askYesNo(const std::string &text, Icon icon, const std::stri
     return QtDesktop::askYesNo(text, icon, title);
 }
 
+bool PlayerDesktop::askToErase(const std::string &text, Icon icon, const std::string &title) {
+    boxShown(title, text);
+    return QtDesktop::askToErase(text, icon, title);
+}
+
 std::optional<std::string> PlayerDesktop::askText(const std::string &prompt,
-                                                  const std::string &title, std::size_t longest) {
+                                                  const std::string &title,
+                                                  const std::string &present, std::size_t longest) {
     boxShown(title, prompt);
-    return QtDesktop::askText(prompt, title, longest);
+    return QtDesktop::askText(prompt, title, present, longest);
 }
 
 std::string PlayerDesktop::openFile(const FileQuestion &question) {

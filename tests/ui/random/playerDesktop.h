@@ -37,8 +37,9 @@ class PlayerDesktop : public QtDesktop {
 
     void showMessage(const std::string &text, Icon icon, const std::string &title) override;
     bool askYesNo(const std::string &text, Icon icon, const std::string &title) override;
+    bool askToErase(const std::string &text, Icon icon, const std::string &title) override;
     std::optional<std::string> askText(const std::string &prompt, const std::string &title,
-                                       std::size_t longest) override;
+                                       const std::string &present, std::size_t longest) override;
     std::string openFile(const FileQuestion &question) override;
     std::string saveFile(const FileQuestion &question) override;
     void progressLoaded(frmProgress &progress) override;
