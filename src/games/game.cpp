@@ -7,6 +7,7 @@
 #include "core/platform.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace boulix {
 
@@ -54,6 +55,25 @@ void game::clear() {
     grids_.clear();
     grids_.shrink_to_fit();
     keys_.clear();
+}
+
+void game::exchange(std::size_t first, std::size_t count, GridList &other) {
+    if (first > grids_.size() || count > grids_.size() - first)
+        fail(Failure::subscriptOutOfRange);
+    if (count == grids_.size()) {
+        grids_.swap(other.grids);
+    } else {
+        std::vector<GridRef> taken;
+        taken.reserve(count);
+        grids_.reserve(grids_.size() - count + other.grids.size()); // from here on nothing can fail
+        const auto begin = grids_.begin() + static_cast<std::ptrdiff_t>(first);
+        const auto end = begin + static_cast<std::ptrdiff_t>(count);
+        std::move(begin, end, std::back_inserter(taken));
+        grids_.insert(grids_.erase(begin, end), std::make_move_iterator(other.grids.begin()),
+                      std::make_move_iterator(other.grids.end()));
+        other.grids.swap(taken);
+    }
+    std::swap(keys_, other.keys);
 }
 
 } // namespace boulix

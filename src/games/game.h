@@ -20,11 +20,35 @@ class Picture;
 class selector;
 struct progressBar;
 
+/// What has become of a load.
+struct GameLoad {
+    std::string file; ///< its full name; empty when none was chosen, or its header was refused
+    std::int32_t added = 0;
+    bool cancelled = false; ///< on the way: the game is empty
+};
+
+/// The list of a game without the game: which grids, in which order, under which keys.
+struct GridList {
+    std::vector<GridRef> grids;
+    collectionKeys keys;
+};
+
 /// The grids that a player intends to play, in the order in which they were added. The grids are
 /// shared objects: a grid can stand in two games, and a change of it shows in both. A reference
 /// to a grid holds as long as the grid is in a game or a `GridRef` to it is kept.
 class game {
   public:
+    game() = default;
+    /// A game of the same grids, not of copies of them.
+    game(const game &other) : grids_(GridRef::copyOf(other.grids_)), keys_(other.keys_) {}
+    game(game &&other) = default;
+    game &operator=(game other) noexcept {
+        grids_.swap(other.grids_);
+        std::swap(keys_, other.keys_);
+        return *this;
+    }
+    ~game() = default;
+
     /// Walks the grids in order.
     template <class Comb>
     class Walker {
@@ -87,11 +111,23 @@ class game {
     /// Removes all grids.
     void clear();
 
-    /// Asks for a file and writes the grids to it.
-    void save() const;
+    /// The references to the grids, in order.
+    const std::vector<GridRef> &refs() const { return grids_; }
+    const collectionKeys &keys() const { return keys_; }
+    /// The list as it stands, four bytes a grid.
+    GridList list() const { return {GridRef::copyOf(grids_), keys_}; }
+    /// Puts the grids of `other` in the place of `count` of those here, counted from place `first`
+    /// on, which `other` gets in return; all keys change places, too. Where that is the whole
+    /// list, it costs nothing, whatever its size. A stretch beyond the list fails with
+    /// `Failure::subscriptOutOfRange`, which like a want of memory leaves both as they were.
+    void exchange(std::size_t first, std::size_t count, GridList &other);
+
+    /// Asks for a file, proposing `name`, and writes the grids to it. The full name of the file,
+    /// empty when the user has thought better of it.
+    std::string save(const std::string &name = {}) const;
     /// Asks for a file and adds its grids, numbers only, to those already here. A file of one
     /// grid adds none. A cancel empties the game; a failure leaves it as it was.
-    void load();
+    GameLoad load();
 
     /// Draws one slip of the grids `first` to `last` on the preview; `page` counts from 1.
     void DisplayGrid(std::int32_t first, std::int32_t last, std::int32_t page,
@@ -104,8 +140,8 @@ class game {
     void PrintGameList() const;
 
     /// Removes every grid that an active rule of `gEliminators` condemns, then tells how many are
-    /// left.
-    void EliminComb();
+    /// left. False when there was nothing to judge, or a rule is beyond its range.
+    bool EliminComb();
 
     /// How many grids win at each rank, and what: against one draw, and summed over the first
     /// `count` of `draws`.

@@ -166,9 +166,9 @@ void Elimination::runRule(int rule, const eliminator &settings) {
 
 } // namespace
 
-void game::EliminComb() {
+bool game::EliminComb() {
     if (!gEliminators->verify() || Count() == 0)
-        return;
+        return false;
     ProgressShown progress("Elimination des combinaisons", "");
     progress->cancelVisible = false;
     progress->ProgressBar2.visible = true;
@@ -182,6 +182,7 @@ void game::EliminComb() {
     progress.unload();
     desktop().showMessage(std::to_string(Count()) + " combinaisons restantes.", Icon::none,
                           gAppInfo->name());
+    return true;
 }
 
 /// Removes the flagged grids in one pass. A list on the screen may look at the game whenever the

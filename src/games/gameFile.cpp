@@ -115,11 +115,11 @@ std::optional<std::vector<GridRef>> readGrids(SlotReader &reader, std::int64_t c
 
 } // namespace
 
-void game::save() const {
+std::string game::save(const std::string &name) const {
     xFile file;
-    file.fullName(modFileSelector::saveDialog(fileFilter, "Sauvegarde d'un fichier jeu"));
+    file.fullName(modFileSelector::saveDialog(fileFilter, "Sauvegarde d'un fichier jeu", name));
     if (file.fullName().empty() || !modFileSelector::mayReplace(file, gAppInfo->name()))
-        return;
+        return {};
     file.head().initialize(fileType);
     const std::int64_t slotLength = file.head().fileLen();
     std::string block(slotsPerBlock * static_cast<std::size_t>(slotLength), '\0');
@@ -127,32 +127,36 @@ void game::save() const {
     writer.write(1, file.head().toRecord());
     writeGrids(*this, writer, block);
     writer.close();
+    return file.fullName();
 }
 
-void game::load() {
+GameLoad game::load() {
     xFile file;
     file.fullName(modFileSelector::openDialog(fileFilter, "Ouverture d'un fichier jeu"));
     if (file.fullName().empty())
-        return;
+        return {};
     file.head().initialize(fileType);
     const std::int64_t slotLength = file.head().fileLen();
     SlotReader reader(file.fullName(), slotLength);
     file.head().loadRecord(reader);
     if (!file.verifyHead(fileType))
-        return;
+        return {};
     // The count of grids is not stored: it follows from the length, rounded. A single grid is
     // less than half a slot more than the header, so its file gives none.
     const std::int64_t count = static_cast<std::int64_t>(
         roundHalfEven(static_cast<double>(reader.fileSize()) / static_cast<double>(slotLength)));
     if (count <= 1)
-        return;
+        return {file.fullName()};
     auto grids = readGrids(reader, count, slotLength);
-    if (!grids)
+    if (!grids) {
         clear();
-    else if (grids_.empty())
+        return {file.fullName(), 0, true};
+    }
+    if (grids_.empty())
         grids_ = std::move(*grids);
     else
         grids_.insert(grids_.end(), grids->begin(), grids->end());
+    return {file.fullName(), static_cast<std::int32_t>(count)};
 }
 
 } // namespace boulix

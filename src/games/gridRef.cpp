@@ -37,6 +37,24 @@ void GridStore::closeChunk(std::uint32_t number) {
     chunks_[number].grids.reset();
 }
 
+std::vector<GridRef> GridRef::copyOf(const std::vector<GridRef> &refs) {
+    const std::size_t size = refs.size();
+    std::vector<GridRef> copy;
+    copy.reserve(size);
+    wantLargePages(copy.data(), size * sizeof(GridRef));
+    copy.resize(size); // from here on nothing can fail
+    for (std::size_t i = 0; i < size; ++i)
+        copy[i].place_ = refs[i].place_;
+    for (std::size_t first = 0; first < size;) {
+        std::size_t next = first + 1;
+        while (next < size && GridStore::inOneChunk(refs[first].place_, refs[next].place_))
+            ++next;
+        gridStore.refer(refs[first].place_, static_cast<std::uint32_t>(next - first));
+        first = next;
+    }
+    return copy;
+}
+
 std::size_t GridRef::stretch(const GridRef *first, std::size_t count) {
     constexpr std::size_t step = 64; // so many at a time, as the compiler can compare them at once
     const GridStore::Place start = first->place_;

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <random>
 
 namespace boulix {
@@ -106,6 +107,27 @@ TEST(GridRefTest, ManyGamesComingAndGoingNeverTakeEachOthersPlace) {
         EXPECT_EQ(grid->num(1), value);
     kept.clear();
     EXPECT_LE(gridStore.chunkCount(), chunksBefore + 1);
+}
+
+TEST(GridRefTest, ACopyOfAListRefersToTheSameGridsAndKeepsThem) {
+    const std::size_t before = gridStore.chunkCount();
+    std::vector<GridRef> grids;
+    for (int i = 0; i < 400000; ++i)
+        grids.emplace_back(gridOf(i % 100));
+    std::shuffle(grids.begin(), grids.end(), std::mt19937(7)); // from chunk to chunk
+    grids.push_back(grids.front());
+    std::vector<GridRef> copy = GridRef::copyOf(grids);
+    ASSERT_EQ(copy, grids);
+    const int last = grids.back()->num(1);
+    grids = {};
+    EXPECT_GE(gridStore.chunkCount(), before + 2);
+    EXPECT_EQ(copy.back()->num(1), last);
+    copy = {};
+    EXPECT_LE(gridStore.chunkCount(), before + 1) << "a count is too high";
+}
+
+TEST(GridRefTest, ACopyOfNothingIsNothing) {
+    EXPECT_TRUE(GridRef::copyOf({}).empty());
 }
 
 } // namespace
