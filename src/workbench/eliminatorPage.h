@@ -4,6 +4,7 @@
 #pragma once
 
 #include <array>
+#include <functional>
 #include <string>
 
 namespace boulix {
@@ -45,20 +46,36 @@ class eliminatorPage {
     /// A box takes text, and the button opens the selection, exactly while the rule is ticked.
     bool txtEnabled(int index) const { return ticked(index); }
     bool btnSelectListEnabled() const { return ticked(ruleCount - 1); }
+    /// What the box of a rule with a threshold takes: "2 à 6". Empty where there is no rule.
+    static std::string rangeText(int index);
+    /// The numbers of the last rule's list, in words.
+    static std::string lblList();
+    /// Why there are no rules to tick; empty as long as there are.
+    static std::string lblNoRules();
 
     /// A click on a button of `tBarEliminator`. A failure ends the command and is shown.
     void clickButton(int index);
     /// A click on `btnSelectList`: asks for the numbers of the last rule's list.
     void clickSelectList();
 
-    /// What the page shows goes into the rules. The value of a rule that is off stays as it is; a
+    /// What the page shows goes into the rules, and the boxes show what was taken from them: what
+    /// does not begin with a number counts as 0. The value of a rule that is off stays as it is; a
     /// value beyond 16 bits fails with `Failure::overflow`.
-    void toRules() const;
+    void toRules();
+    /// Gives the focus to the box of the first rule that is on and out of its range.
+    static void focusRefused();
     /// What the rules hold is shown on the page. A rule that does not exist leaves its box alone.
     void fromRules();
 
   private:
+    /// All that a command on the rules can change.
+    struct State;
+
     static std::size_t place(int index) { return static_cast<std::size_t>(index); }
+    void change(const char *name, const std::function<void()> &command);
+    void exchange(State &other);
+    void load();
+    void save();
     static void selectList();
     void refresh() const;
 

@@ -5,6 +5,7 @@
 
 #include "files/xFile.h"
 #include "games/modGame.h"
+#include "sill/desktop.h"
 #include "sill/reports.h"
 
 namespace boulix {
@@ -51,6 +52,7 @@ const std::array<frmGameList::ButtonText, 6> frmGameList::tbar = {{
 frmGameList::frmGameList() {
     lvwGame.columns({{"Descriptif du jeu", std::string(50, 'n'), false},
                      {"Fichier", "rgame-00000.gam", false}});
+    lvwGame.whenEmpty({"Vous n'avez pas encore créé de système : l'onglet « Créer » en calcule."});
     fill();
 }
 
@@ -73,6 +75,10 @@ void frmGameList::clickRow(std::int64_t row) {
         view_->refresh();
 }
 
+std::string frmGameList::whyOff(int index) const {
+    return index != quit && selected_ == 0 ? "Cliquez d'abord sur un jeu de la liste." : "";
+}
+
 void frmGameList::clickButton(int index) {
     if (index == quit)
         hidden_ = true;
@@ -90,9 +96,11 @@ void frmGameList::runButton(int index) {
     case renameGame:
         changed_ = true;
         def.rename();
+        desktop().announce("Système renommé : " + def.label());
         return fill();
     case exportGame:
-        def.exportText();
+        if (def.exportText())
+            desktop().announce("Système exporté : " + def.label());
         return;
     case printGame:
         return def.printDef();
@@ -109,9 +117,11 @@ void frmGameList::runButton(int index) {
 
 void frmGameList::removeSelected() {
     const Entry entry = entryOf(selected_);
+    const std::string label = entry.definition().label();
     changed_ = true;
     modGame::removeUserGame(entry.position, entry.list);
     fill();
+    desktop().announce("Système supprimé : " + label);
 }
 
 } // namespace boulix

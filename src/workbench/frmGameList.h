@@ -56,6 +56,8 @@ class frmGameList {
     /// A click on a button of `tbar`; all but the last do nothing without a selected row. A
     /// failure ends the command and is shown.
     void clickButton(int index);
+    /// Why a button of `tbar` can do nothing now; empty for one that can.
+    std::string whyOff(int index) const;
     /// Whether a system was removed or renamed.
     bool changedMark() const { return changed_; }
     bool hidden() const { return hidden_; }

@@ -8,6 +8,7 @@
 #include "core/text.h"
 #include "draws/dbCombs.h"
 #include "files/slotFile.h"
+#include "games/game.h"
 #include "printing/printerSystem.h"
 #include "sill/appInfo.h"
 #include "sill/desktop.h"
@@ -15,6 +16,7 @@
 #include "sill/modMain.h"
 #include "sill/reports.h"
 #include "sill/undo.h"
+#include "workbench/countAndPrice.h"
 
 namespace boulix {
 
@@ -144,7 +146,7 @@ void frmMain::showHelp() {
 
 bool frmMain::queryClose() {
     const std::string &name = gAppInfo->name();
-    const std::string question = "Etes-vous sûr de vouloir quitter " + name + "?";
+    const std::string question = "Etes-vous sûr de vouloir quitter " + name + "?" + unsavedGame();
     if (!desktop().askYesNo(question, Icon::question, name) || !mayLeaveBase())
         return false;
     if (!printerSystem().finishDocuments())
@@ -153,6 +155,14 @@ bool frmMain::queryClose() {
     if (modMain::gDebug)
         modMain::closeLog();
     return true;
+}
+
+/// A line more for the question of the quit, where grids would be lost.
+std::string frmMain::unsavedGame() const {
+    if (!games.hasUnsavedGrids())
+        return {};
+    return crlf + std::string("Le jeu en cours n'est pas enregistré : ") +
+           gridCount(currentGame->Count()) + ".";
 }
 
 /// The draws of a save that failed, or of an import that was broken off, are in memory alone: they

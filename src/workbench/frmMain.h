@@ -78,6 +78,7 @@ class frmMain : public windowFrame {
     void frmInitTab();
     void initTabs();
     void fillDBList();
+    std::string unsavedGame() const;
     bool mayLeaveBase();
     void refresh() const;
 

@@ -3,6 +3,7 @@
 
 #include "workbench/gameDesign.h"
 
+#include "core/frenchNumbers.h"
 #include "core/globals.h"
 #include "core/numbers.h"
 #include "core/text.h"
@@ -11,10 +12,13 @@
 #include "games/modGame.h"
 #include "sill/desktop.h"
 #include "sill/reports.h"
+#include "sill/typedField.h"
 #include "stats/modStats.h"
 #include "stats/statStores.h"
+#include "workbench/countAndPrice.h"
 #include "workbench/gridList.h"
 
+#include <memory>
 #include <utility>
 
 namespace boulix {
@@ -52,6 +56,13 @@ const modGame::GameList &systemsOf(int tab) {
     return tab == gameDesign::reducedTab ? modGame::reducedGames : modGame::fixedGames;
 }
 
+std::string captionOf(int tab) {
+    return gameDesign::tabGameDesign.at(static_cast<std::size_t>(tab)).caption;
+}
+
+const TypedField randomCountField = {"txtNrandomGrid", "Nombre de grilles",
+                                     "un nombre entier de 0 à 32 767"};
+
 bool isSystemTab(int tab) {
     return tab == gameDesign::reducedTab || tab == gameDesign::fixedTab;
 }
@@ -80,7 +91,8 @@ const std::array<const char *, 3> gameDesign::chkSelectTexts = {
     "issus des pronostiques",
 };
 
-gameDesign::gameDesign(std::function<void()> gameGrew) : gameGrew_(std::move(gameGrew)) {
+gameDesign::gameDesign(std::function<void(const game &)> addGrids)
+    : addGrids_(std::move(addGrids)) {
     systems.computed = [this](const game &rows) { list(rows); };
     systems.listsChanged = [this] { appendGameTypes(); };
 }
@@ -91,6 +103,7 @@ void gameDesign::init() {
     systems.init();
     currentTab_ = reducedTab;
     fillGameTypes();
+    tellEmpty();
 }
 
 void gameDesign::view(gameDesignView *view) {
@@ -104,13 +117,17 @@ void gameDesign::clickTab(int index) {
     currentTab_ = index;
     if (isSystemTab(index))
         fillGameTypes();
-    if (index != selectorsTab) {
-        if (lastGameType_ == index)
-            list(*constructionGame);
-        else
-            clearList();
-    }
+    if (index != selectorsTab)
+        listMade();
     refresh();
+}
+
+/// The grids under construction are listed on the tab on which they were made.
+void gameDesign::listMade() {
+    if (lastGameType_ == currentTab_)
+        list(*constructionGame);
+    else
+        clearList();
 }
 
 void gameDesign::fillGameTypes() {
@@ -172,10 +189,7 @@ void gameDesign::add() {
         reportNumbered(701, "Impossible d'ajouter le jeu: aucun jeu de ce type n'a été défini!!!");
         return;
     }
-    currentGame->reserve(static_cast<std::size_t>(made.Count()));
-    for (std::int32_t i = 1; i <= made.Count(); ++i)
-        currentGame->Add(made.shared(i));
-    gameGrew_();
+    addGrids_(made);
 }
 
 void gameDesign::select() {
@@ -229,20 +243,73 @@ void gameDesign::prepareSelection() {
     }
 }
 
+/// Runs `command`, which may change the grids under construction, so that it can be taken back.
+void gameDesign::change(const char *name, GameStep step, const GameCommand::Command &command) {
+    const auto method = std::make_shared<int>(lastGameType_);
+    GameCommand recorded(*constructionGame, name, std::move(step), [this, method] {
+        std::swap(lastGameType_, *method);
+        if (currentTab_ < selectorsTab)
+            listMade();
+        refresh();
+    });
+    recorded.run(command);
+}
+
 void gameDesign::clear() {
-    if (!desktop().askYesNo("Etes-vous sûr de vouloir effacer le jeu sans l'ajouter?",
-                            Icon::question, "Effacement du jeu en construction"))
+    if (!desktop().askToErase("Etes-vous sûr de vouloir effacer le jeu sans l'ajouter?",
+                              Icon::question, "Effacement du jeu en construction"))
         return;
-    constructionGame->clear();
+    const std::int32_t before = constructionGame->Count();
+    change("Effacer", {}, [](GameStep &step) { step.empty(*constructionGame); });
     clearList();
+    desktop().announce("Grilles en construction effacées : " + gridCount(before));
 }
 
 void gameDesign::compute() {
     const std::int32_t position = gameType_ + 1;
-    if (position < 1 || !computeByTab(position))
+    if (position < 1)
         return;
-    lastGameType_ = currentTab_;
-    list(*constructionGame);
+    const std::int32_t before = constructionGame->Count();
+    const int methodBefore = lastGameType_;
+    bool computed = false;
+    change("Calculer", GameStep(*constructionGame), [&](GameStep &) {
+        computed = computeByTab(position);
+        if (computed)
+            lastGameType_ = currentTab_;
+    });
+    if (computed) {
+        list(*constructionGame);
+        announceComputed(before, methodBefore);
+    } else if (currentTab_ == manualTab) {
+        desktop().announce(before == 0 ? "Calcul annulé"
+                                       : "Calcul annulé : il n'y a plus de grilles en "
+                                         "construction, « Annuler » les rétablit");
+    }
+}
+
+/// A calculation adds to what is there, whichever method made it, and does not always add: both
+/// can be seen in no other way.
+void gameDesign::announceComputed(std::int32_t before, int methodBefore) const {
+    const std::int32_t added = constructionGame->Count() - before;
+    std::string earlier;
+    if (before > 0)
+        earlier = methodBefore == currentTab_ ? "celles d'avant"
+                                              : "celles de « " + captionOf(methodBefore) + " »";
+    if (added == 0)
+        return desktop().announce("Aucune grille calculée" + whyNothingAdded(earlier));
+    std::string text = gridCount(added) + (added < 2 ? " calculée" : " calculées");
+    if (before > 0)
+        text += ", avec " + earlier + " : " + gridCount(constructionGame->Count());
+    desktop().announce(text);
+}
+
+std::string gameDesign::whyNothingAdded(const std::string &earlier) const {
+    if (currentTab_ == manualTab && gameSelector_.nSelectedNbr() < gameComb::size)
+        return " : il faut au moins six numéros";
+    if (currentTab_ == randomTab && !earlier.empty())
+        return " : « Nombre de grilles » compte aussi " + earlier + ", il y en a déjà " +
+               groupedNumber(static_cast<std::uint64_t>(constructionGame->Count()));
+    return {};
 }
 
 bool gameDesign::computeByTab(std::int32_t position) {
@@ -257,17 +324,56 @@ bool gameDesign::computeByTab(std::int32_t position) {
     case manualTab:
         return made.ComputeManualGame(gameSelector_);
     case randomTab: {
-        const bool empty = trimmed(txtNrandomGrid).empty();
-        const std::int16_t count =
-            empty ? std::int16_t{-1} : toInt16(wholeNumberText(txtNrandomGrid));
-        return made.ComputeRandomGame(count, gameSelector_);
+        const std::int16_t count = randomCount();
+        if (made.ComputeRandomGame(count, gameSelector_))
+            return true;
+        if (count < 0)
+            desktop().focusField(randomCountField.name);
+        return false;
     }
     default:
         return false;
     }
 }
 
-void gameDesign::refresh() const {
+/// The count that is typed, -1 for none.
+std::int16_t gameDesign::randomCount() const {
+    if (trimmed(txtNrandomGrid).empty())
+        return -1;
+    return readField(randomCountField, txtNrandomGrid,
+                     [](const std::string &typed) { return toInt16(wholeNumberText(typed)); });
+}
+
+std::string gameDesign::lblCount() const {
+    return countAndPrice(listed_.Count());
+}
+
+std::string gameDesign::whyOff(int button) {
+    if (button == clearGame && constructionGame->Count() == 0)
+        return "Aucune grille n'est en construction.";
+    return {};
+}
+
+/// What stands in the list while it shows no grids: the next thing to do.
+void gameDesign::tellEmpty() {
+    const bool madeElsewhere = constructionGame->Count() > 0 && lastGameType_ != currentTab_;
+    if (currentTab_ == createTab)
+        lvwGameDef.whenEmpty({"Fixez les trois nombres, puis cliquez sur Calculer."});
+    else if (madeElsewhere)
+        lvwGameDef.whenEmpty(
+            {"Les grilles en construction viennent de « " + captionOf(lastGameType_) + " ».",
+             "Les revoir", [this] { clickTab(lastGameType_); }});
+    else if (gameSelector_.nSelectedNbr() == 0)
+        lvwGameDef.whenEmpty({"Choisissez des numéros, cliquez sur Calculer, puis sur Ajouter.",
+                              "Choisir des numéros", [this] { clickButton(selectNumbers); }});
+    else
+        lvwGameDef.whenEmpty({"Les numéros sont choisis : cliquez sur Calculer, puis sur Ajouter.",
+                              "Calculer", [this] { clickButton(computeGame); }});
+}
+
+void gameDesign::refresh() {
+    if (lvwGameDef.rowCount() == 0)
+        tellEmpty();
     if (view_)
         view_->refresh();
 }

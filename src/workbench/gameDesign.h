@@ -8,6 +8,7 @@
 #include "sill/numberBoard.h"
 #include "sill/reportList.h"
 #include "sill/selector.h"
+#include "workbench/gameCommand.h"
 #include "workbench/systemMaker.h"
 
 #include <array>
@@ -47,8 +48,8 @@ class gameDesign {
     static const std::array<const char *, 3> chkSelectTexts;
     static constexpr const char *chkSelectLabel = "Sélectionner les numéros";
 
-    /// `gameGrew` is called when grids went into `currentGame`.
-    explicit gameDesign(std::function<void()> gameGrew);
+    /// `addGrids` puts the grids of a game into the user's own.
+    explicit gameDesign(std::function<void(const game &)> addGrids);
     gameDesign(const gameDesign &) = delete;
     gameDesign &operator=(const gameDesign &) = delete;
 
@@ -77,6 +78,10 @@ class gameDesign {
     /// and is shown.
     void clickButton(int index);
     void clickCreateButton(int index);
+    /// What stands under the list: how many grids it shows and what they cost.
+    std::string lblCount() const;
+    /// Why a button of `tbarGameDef` can do nothing now; empty for one that can.
+    static std::string whyOff(int button);
     /// What the next selections begin with.
     const selector &gameSelector() const { return gameSelector_; }
 
@@ -87,16 +92,22 @@ class gameDesign {
     void clear();
     void compute();
     bool computeByTab(std::int32_t position);
+    std::int16_t randomCount() const;
+    void change(const char *name, GameStep step, const GameCommand::Command &command);
+    void announceComputed(std::int32_t before, int methodBefore) const;
+    std::string whyNothingAdded(const std::string &earlier) const;
     void prepareSelection();
     void fillGameTypes();
     void appendGameTypes();
     void appendLabels(const modGame::GameList &list);
     void list(const game &grids);
     void clearList();
+    void listMade();
+    void tellEmpty();
     void showSelection();
-    void refresh() const;
+    void refresh();
 
-    std::function<void()> gameGrew_;
+    std::function<void(const game &)> addGrids_;
     gameDesignView *view_ = nullptr;
     selector gameSelector_;
     int currentTab_ = reducedTab;

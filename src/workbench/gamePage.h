@@ -4,11 +4,14 @@
 #pragma once
 
 #include "sill/reportList.h"
+#include "workbench/gameCommand.h"
 #include "workbench/gameDesign.h"
+#include "workbench/gameDocument.h"
 
 #include <array>
 #include <cstdint>
 #include <functional>
+#include <string>
 #include <vector>
 
 namespace boulix {
@@ -18,8 +21,11 @@ class eliminatorPage;
 /// What the game page asks of its screen.
 class gameView : public gameDesignView {
   public:
+    /// Shows what stands under the list again, and which buttons act.
+    void refresh() override = 0;
     /// The selected rows of `lvwGame`, counted from 1, ascending.
     virtual std::vector<std::int64_t> selectedRows() const = 0;
+    virtual bool anyRowSelected() const = 0;
 };
 
 /// The page on which a game is composed. This half is the left side, the game of the user with
@@ -42,6 +48,7 @@ class gamePage {
 
     reportList lvwGame;
     gameDesign design;
+    gameDocument document; ///< the file of the game
     /// Called when the list shows a new game, so that the game is verified anew.
     std::function<void()> gameShown;
 
@@ -56,6 +63,16 @@ class gamePage {
     /// and the game whole.
     void refill();
 
+    /// What stands under the list: how many grids there are and what they cost, and the file.
+    std::string lblCount() const;
+    std::string lblFile() const;
+    /// Whether there are grids that no file holds.
+    bool hasUnsavedGrids() const;
+    /// Why a button of `tbarGame` can do nothing now; empty for one that can.
+    std::string whyOff(int button) const;
+    /// The price or its unit has changed.
+    void showPrice() const { refresh(); }
+
     /// A click on a button of `tbarGame`. A failure ends the command and is shown, and the list
     /// then shows what the game holds.
     void clickButton(int index);
@@ -64,9 +81,16 @@ class gamePage {
 
   private:
     void runButton(int index);
+    void load();
     void clear();
     void removeSelected();
     void eliminate();
+    void save();
+    void add(const game &made);
+    void change(const char *name, GameStep step, const GameCommand::Command &command);
+    void showGrids();
+    void tellEmpty();
+    void refresh() const;
 
     eliminatorPage &rules_;
     gameView *view_ = nullptr;

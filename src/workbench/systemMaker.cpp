@@ -10,6 +10,8 @@
 #include "games/game.h"
 #include "games/modGame.h"
 #include "printing/gridConfig.h"
+#include "sill/desktop.h"
+#include "workbench/countAndPrice.h"
 #include "workbench/frmGameList.h"
 #include "workbench/frmOptimiser.h"
 
@@ -97,6 +99,7 @@ void systemMaker::compute() {
         return;
     newGameDef_ = made;
     showSystem();
+    desktop().announce("Système calculé : " + countAndPrice(made->nComb()));
 }
 
 void systemMaker::showSystem() {
@@ -150,6 +153,7 @@ void systemMaker::add() {
         return;
     modGame::saveNewGame(list, nReduced, nFixedGame);
     listsChanged();
+    desktop().announce("Système ajouté : " + list.back().label());
 }
 
 void systemMaker::refresh() const {

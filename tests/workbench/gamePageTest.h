@@ -36,6 +36,7 @@ class GamePageTest : public BoulixTest, protected gameView {
         modGame::init();
     }
     std::vector<std::int64_t> selectedRows() const override { return selected; }
+    bool anyRowSelected() const override { return !selected.empty(); }
     void refresh() override { ++refreshes; }
     void runGameList(frmGameList &window) override {
         if (onGameList)

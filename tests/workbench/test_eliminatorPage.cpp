@@ -7,6 +7,7 @@
 
 #include "core/globals.h"
 #include "eliminators/eliminators.h"
+#include "sill/undo.h"
 #include "support/boulixTest.h"
 
 #include <string>
@@ -232,6 +233,114 @@ TEST_F(EliminatorPageTest, WithoutRulesTheListButtonIsAFailureThatIsShown) {
     page.clickSelectList();
     ASSERT_EQ(desktop.messages.size(), 1U);
     EXPECT_EQ(desktop.messages[0].title, "Boulix Erreur système N° 9");
+}
+
+TEST_F(EliminatorPageTest, EachBoxTellsItsRange) {
+    EXPECT_EQ(eliminatorPage::rangeText(0), "2 à 6");
+    EXPECT_EQ(eliminatorPage::rangeText(3), "21 à 279");
+    rule(1).ValMax(5); // as a file can have it
+    EXPECT_EQ(eliminatorPage::rangeText(0), "2 à 5");
+}
+
+TEST_F(EliminatorPageTest, ABoxShowsTheValueThatWasTakenFromIt) {
+    for (int i = 0; i < 4; ++i)
+        page.tick(i, true);
+    page.txtEliminator = {"quatre", "", "  150 ", "4.6", "7", "", ""};
+    const int before = refreshes;
+    page.toRules();
+    EXPECT_EQ(page.txtEliminator, (std::array<std::string, 7>{"0", "0", "150", "5", "7", "", ""}));
+    EXPECT_GT(refreshes, before);
+}
+
+TEST_F(EliminatorPageTest, AValueThatNoRuleCanHoldIsTraceableToItsBox) {
+    page.tick(2, true);
+    page.txtEliminator[2] = "99999";
+    click(eliminatorPage::saveRules);
+    ASSERT_EQ(desktop.messages.size(), 1U);
+    EXPECT_EQ(desktop.messages[0],
+              (ShownBox{"Dépassement de capacité\r\n« Eliminer les combinaisons dont la somme des "
+                        "numéros est inférieure à » attend un nombre entier de 21 à 279 ; il y "
+                        "avait « 99999 ».",
+                        Icon::critical, "Boulix Erreur système N° 6"}));
+    EXPECT_EQ(desktop.focusedFields, (std::vector<std::string>{"txtEliminator_2"}));
+    EXPECT_TRUE(desktop.saveQuestions.empty());
+    EXPECT_EQ(page.txtEliminator[2], "99999");
+}
+
+TEST_F(EliminatorPageTest, TheFocusGoesToTheFirstRuleOutOfItsRange) {
+    eliminatorPage::focusRefused();
+    EXPECT_TRUE(desktop.focusedFields.empty());
+    page.tick(1, true);
+    page.txtEliminator[1] = "6";
+    page.tick(4, true);
+    page.txtEliminator[4] = "7";
+    page.toRules();
+    eliminatorPage::focusRefused();
+    EXPECT_EQ(desktop.focusedFields, (std::vector<std::string>{"txtEliminator_4"}));
+}
+
+TEST_F(EliminatorPageTest, TheListSaysItsNumbers) {
+    EXPECT_EQ(eliminatorPage::lblList(), "Aucun numéro dans la liste");
+    for (const int n : {30, 7, 12})
+        rule(8).eliminNbr(n, eliminator::on);
+    EXPECT_EQ(eliminatorPage::lblList(), "7, 12, 30");
+    for (int n = 1; n <= 49; ++n)
+        rule(8).eliminNbr(n, eliminator::on);
+    EXPECT_EQ(eliminatorPage::lblList(),
+              "Les 49 numéros : toutes les combinaisons seront éliminées");
+}
+
+TEST_F(EliminatorPageTest, RulesThatARefusedFileTookAwayComeBack) {
+    page.tick(1, true);
+    page.txtEliminator[1] = "5";
+    page.toRules();
+    EXPECT_EQ(eliminatorPage::lblNoRules(), "");
+    testing_support::writeBytes(file("autre.elm"), "pas un fichier");
+    for (const char *name : {"autre.elm", "absent.elm"}) {
+        desktop.answerOpen(file(name));
+        click(eliminatorPage::loadRules);
+        EXPECT_EQ(gEliminators->Count(), 0);
+        EXPECT_NE(eliminatorPage::lblNoRules(), "");
+        EXPECT_EQ(gUndo->undoName(), "Charger");
+        gUndo->undo();
+        EXPECT_EQ(gEliminators->Count(), 8);
+        EXPECT_EQ(rule(2).Value(), 5);
+        EXPECT_TRUE(page.ticked(1));
+        EXPECT_EQ(page.txtEliminator[1], "5");
+    }
+}
+
+TEST_F(EliminatorPageTest, ALoadIsAnnouncedAndTakenBack) {
+    page.tick(0, true);
+    page.txtEliminator[0] = "3";
+    desktop.answerSave(file("trois.elm"));
+    click(eliminatorPage::saveRules);
+    EXPECT_EQ(desktop.saveQuestions.back().name, "eliminateurs.elm");
+    page.txtEliminator[0] = "4";
+    page.toRules();
+    desktop.answerOpen(file("trois.elm"));
+    click(eliminatorPage::loadRules);
+    EXPECT_EQ(page.txtEliminator[0], "3");
+    EXPECT_EQ(desktop.announcements,
+              (std::vector<std::string>{"Eliminateurs enregistrés dans trois.elm",
+                                        "Eliminateurs chargés de trois.elm"}));
+    gUndo->undo();
+    EXPECT_EQ(page.txtEliminator[0], "4");
+    EXPECT_EQ(rule(1).Value(), 4);
+    EXPECT_TRUE(listed().empty());
+    gUndo->redo();
+    EXPECT_EQ(page.txtEliminator[0], "3");
+    EXPECT_EQ(listed().size(), 49U);
+}
+
+TEST_F(EliminatorPageTest, AListThatACancelledDialogEmptiedComesBack) {
+    for (const int n : {30, 7, 12})
+        rule(8).eliminNbr(n, eliminator::on);
+    desktop.answerNumbers(NumberScript().cancel());
+    page.clickSelectList();
+    EXPECT_TRUE(listed().empty());
+    gUndo->undo();
+    EXPECT_EQ(listed(), (Numbers{7, 12, 30}));
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 
 #include "core/globals.h"
 #include "draws/dbCombs.h"
+#include "games/game.h"
 #include "sill/modMain.h"
 #include "support/boulixTest.h"
 #include "support/smallDisk.h"
@@ -317,6 +318,22 @@ TEST_F(MainWindow, ADrawWithoutADateEndsTheRefillWithOneMessageAndKeepsTheRowsBe
                   Icon::critical, "Boulix Erreur système N° 6"}));
     EXPECT_EQ(mainWindow->database.lvwDBcomb.rowCount(), 1);
     EXPECT_EQ(mainWindow->StatusBar[0], "3 combinaisons dans la base de données");
+}
+
+TEST_F(MainWindow, TheQuestionOfTheQuitTellsOfAnUnsavedGame) {
+    const auto question = [this] {
+        desktop.answerNo();
+        EXPECT_FALSE(mainWindow->queryClose());
+        return desktop.questions.back().text;
+    };
+    EXPECT_EQ(question(), "Etes-vous sûr de vouloir quitter boulix?");
+    currentGame->Add();
+    currentGame->Add();
+    EXPECT_EQ(question(), "Etes-vous sûr de vouloir quitter boulix?\r\n"
+                          "Le jeu en cours n'est pas enregistré : 2 grilles.");
+    desktop.answerSave(file("deux.lst"));
+    mainWindow->games.clickButton(gamePage::saveGame);
+    EXPECT_EQ(question(), "Etes-vous sûr de vouloir quitter boulix?");
 }
 
 } // namespace

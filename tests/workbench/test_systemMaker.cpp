@@ -271,8 +271,11 @@ TEST_F(GameListTest, RenommerSetsTheMarkAndTheDropDownGrows) {
     const std::size_t before = page.design.cmbGameType().size();
     inList([&](frmGameList &window) {
         window.clickRow(1);
+        const std::string present = window.lvwGame.text(0, 0);
         desktop.answerText("nouveau nom");
         window.clickButton(frmGameList::renameGame);
+        EXPECT_EQ(desktop.presentTexts.back(), present);
+        EXPECT_EQ(desktop.announcements.back(), "Système renommé : nouveau nom");
         EXPECT_TRUE(window.changedMark());
         EXPECT_EQ(rows(window.lvwGame)[0], (Texts{"nouveau nom", "rgame-0.gam"}));
     });

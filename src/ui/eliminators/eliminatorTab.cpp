@@ -5,12 +5,14 @@
 
 #include "ui/style/iconLoader.h"
 #include "ui/style/theme.h"
+#include "ui/widgets/elidedLabel.h"
 #include "ui/widgets/qtText.h"
 #include "ui/widgets/scrollPanel.h"
 #include "ui/widgets/toolbar.h"
 
 #include <QCheckBox>
 #include <QGridLayout>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QToolBar>
@@ -65,9 +67,25 @@ QWidget *EliminatorTab::makeRules() {
         stops.push_back(chkEliminator[static_cast<std::size_t>(index)]);
         stops.push_back(controlOf(index));
     }
-    grid->setRowStretch(eliminatorPage::ruleCount, 1); // in a high window they stay together
     setTabStops(stops);
+    addLines(*grid);
     return rules;
+}
+
+/// What stands below the rules: the numbers of the last one, and a sentence where there are none.
+void EliminatorTab::addLines(QGridLayout &grid) {
+    constexpr int below = eliminatorPage::ruleCount;
+    list_ = new ElidedLabel(this);
+    list_->setObjectName(QStringLiteral("lblList"));
+    list_->setAccessibleDescription(QStringLiteral("Numéros de la liste"));
+    list_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    list_->setIndent(3 * theme::margin); // under the text of its rule
+    noRules_ = new QLabel(this);
+    noRules_->setObjectName(QStringLiteral("lblNoRules"));
+    noRules_->setWordWrap(true);
+    grid.addWidget(list_, below, 0, 1, 2);
+    grid.addWidget(noRules_, below + 1, 0, 1, 2, Qt::AlignTop);
+    grid.setRowStretch(below + 1, 1); // in a high window the rules stay together
 }
 
 void EliminatorTab::addRule(QGridLayout &grid, int index) {
@@ -111,12 +129,33 @@ void EliminatorTab::refresh() {
         chkEliminator[i]->setChecked(page_.ticked(index));
     }
     for (std::size_t i = 0; i < txtEliminator.size(); ++i) {
-        const QString value = toQt(page_.txtEliminator[i]);
-        if (txtEliminator[i]->text() != value)
-            txtEliminator[i]->setText(value);
-        txtEliminator[i]->setEnabled(page_.txtEnabled(static_cast<int>(i)));
+        showValueBox(i);
     }
-    btnSelectList->setEnabled(page_.btnSelectListEnabled());
+    const bool listed = page_.btnSelectListEnabled();
+    btnSelectList->setEnabled(listed);
+    btnSelectList->setToolTip(listed ? QStringLiteral("Choisir les numéros de la liste")
+                                     : QStringLiteral("Cochez la règle pour choisir ses numéros"));
+    list_->setText(toQt(eliminatorPage::lblList()));
+    list_->setEnabled(listed);
+    noRules_->setText(toQt(eliminatorPage::lblNoRules()));
+}
+
+/// A box tells what it takes, and why it takes nothing.
+void EliminatorTab::showValueBox(std::size_t i) {
+    const int index = static_cast<int>(i);
+    QLineEdit &box = *txtEliminator[i];
+    const QString value = toQt(page_.txtEliminator[i]);
+    if (box.text() != value)
+        box.setText(value);
+    const QString range = toQt(eliminatorPage::rangeText(index));
+    box.setEnabled(page_.txtEnabled(index));
+    box.setPlaceholderText(range);
+    QString toolTip = QStringLiteral("Valeur de l'éliminateur");
+    if (!range.isEmpty())
+        toolTip += QStringLiteral(", ") + range;
+    if (!box.isEnabled())
+        toolTip += QStringLiteral("\nCochez la règle pour donner sa valeur");
+    box.setToolTip(toolTip);
 }
 
 } // namespace boulix

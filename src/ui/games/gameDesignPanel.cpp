@@ -6,6 +6,7 @@
 #include "sill/reports.h"
 #include "ui/games/systemMakerPanel.h"
 #include "ui/style/theme.h"
+#include "ui/widgets/elidedLabel.h"
 #include "ui/widgets/fittingTabs.h"
 #include "ui/widgets/numberBoardView.h"
 #include "ui/widgets/qtText.h"
@@ -13,6 +14,7 @@
 #include "ui/widgets/toolbar.h"
 #include "workbench/gameDesign.h"
 
+#include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QHBoxLayout>
@@ -27,8 +29,7 @@ namespace boulix {
 GameDesignPanel::GameDesignPanel(gameDesign &design, QWidget *parent)
     : QWidget(parent), design_(design), tabGameDesign(new FittingTabBar(this)),
       systems_(new SystemMakerPanel(design, this)),
-      grdGameDef(new NumberBoardView(design.grdGameDef, this)),
-      lvwGameDef(new ReportView(design.lvwGameDef, this)) {
+      grdGameDef(new NumberBoardView(design.grdGameDef, this)), count_(new ElidedLabel(this)) {
     makeTabs();
     makeToolbar();
     auto *column = new QVBoxLayout(this);
@@ -42,8 +43,7 @@ GameDesignPanel::GameDesignPanel(gameDesign &design, QWidget *parent)
     column->addWidget(systems_);
     column->addWidget(makeGrids(), 1);
     column->addStretch();
-    setTabOrder(chkSelect.back(), grdGameDef); // the result comes last
-    setTabOrder(grdGameDef, lvwGameDef);
+    setTabOrder(chkSelect.back(), grdGameDef); // the result, which was made last, comes last
     setFocusProxy(tabGameDesign);
     refresh();
 }
@@ -100,7 +100,9 @@ QWidget *GameDesignPanel::makeRandomCount() {
     randomCount_ = new QWidget(this);
     txtNrandomGrid = new QLineEdit(randomCount_);
     txtNrandomGrid->setObjectName(QStringLiteral("txtNrandomGrid"));
-    txtNrandomGrid->setToolTip(QStringLiteral("Nombre de grilles du jeu aléatoire"));
+    txtNrandomGrid->setToolTip(
+        QStringLiteral("Nombre de grilles du jeu aléatoire, jusqu'à 32 767"));
+    txtNrandomGrid->setPlaceholderText(QStringLiteral("1 à 32 767"));
     txtNrandomGrid->setFixedWidth(fontMetrics().averageCharWidth() * 12);
     connect(txtNrandomGrid, &QLineEdit::textEdited, this,
             [this](const QString &text) { design_.txtNrandomGrid = fromQt(text); });
@@ -141,16 +143,31 @@ QWidget *GameDesignPanel::makeGrids() {
     grdGameDef->setToolTip(QStringLiteral("Numéros sélectionnés"));
     // In a wide window the list stays beside the board.
     grdGameDef->setMaximumWidth(fontMetrics().averageCharWidth() * 60);
-    lvwGameDef->setObjectName(QStringLiteral("lvwGameDef"));
-    lvwGameDef->setAccessibleName(QStringLiteral("Grilles calculées"));
-    lvwGameDef->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Expanding);
     auto *row = new QHBoxLayout(grids_);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(theme::margin);
     row->addWidget(grdGameDef, 1);
-    row->addWidget(lvwGameDef);
+    row->addWidget(makeList());
     row->addStretch(); // where there is no board the list stays as wide as its columns
     return grids_;
+}
+
+QWidget *GameDesignPanel::makeList() {
+    auto *list = new QWidget(this);
+    lvwGameDef = new ReportView(design_.lvwGameDef, list);
+    lvwGameDef->setObjectName(QStringLiteral("lvwGameDef"));
+    lvwGameDef->setAccessibleName(QStringLiteral("Grilles calculées"));
+    lvwGameDef->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Expanding);
+    list->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Expanding);
+    count_->setObjectName(QStringLiteral("lblDesignCount"));
+    count_->setAccessibleDescription(QStringLiteral("Grilles et prix du jeu en construction"));
+    count_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    auto *column = new QVBoxLayout(list);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(theme::gap);
+    column->addWidget(lvwGameDef, 1);
+    column->addWidget(count_);
+    return list;
 }
 
 void GameDesignPanel::showGameTypes() {
@@ -171,6 +188,10 @@ void GameDesignPanel::refresh() {
     for (std::size_t i = 0; i < chkSelect.size(); ++i)
         chkSelect[i]->setChecked(design_.chkSelect[i]);
     systems_->refresh();
+    count_->setText(toQt(design_.lblCount()));
+    int button = 0;
+    for (QAction *action : tbarGameDef->actions())
+        setWhyOff(*action, toQt(gameDesign::whyOff(++button)));
     if (focus && isAncestorOf(focus) && !focus->isVisibleTo(this))
         focusFirstControl();
 }
@@ -191,6 +212,7 @@ void GameDesignPanel::showControlsOfTab() {
     systems_->setVisible(tab == gameDesign::createTab);
     grids_->setVisible(tab != gameDesign::selectorsTab);
     grdGameDef->setVisible(designs);
+    count_->setVisible(designs); // a computed system has its own labels
 }
 
 /// The control that had the focus is not on this tab: Qt would look for the next one anywhere in

@@ -15,6 +15,7 @@ class QToolBar;
 
 namespace boulix {
 
+class ElidedLabel;
 class NumberBoardView;
 class ReportView;
 class SystemMakerPanel;
@@ -41,6 +42,7 @@ class GameDesignPanel : public QWidget {
     QWidget *makeRandomCount();
     QWidget *makeSources();
     QWidget *makeGrids();
+    QWidget *makeList();
     void showGameTypes();
     void showControlsOfTab();
     void focusFirstControl();
@@ -57,7 +59,8 @@ class GameDesignPanel : public QWidget {
     SystemMakerPanel *systems_;
     QWidget *grids_ = nullptr;
     NumberBoardView *grdGameDef;
-    ReportView *lvwGameDef;
+    ReportView *lvwGameDef = nullptr;
+    ElidedLabel *count_; ///< how many grids the list shows and what they cost
 };
 
 } // namespace boulix

@@ -9,6 +9,7 @@
 #include "ui/widgets/reportView.h"
 #include "ui/widgets/toolbar.h"
 
+#include <QAction>
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QLabel>
@@ -86,6 +87,9 @@ void GameListDialog::refresh() {
                                                       &rules_.lblnFixed, &rules_.lblnSelected};
     for (std::size_t i = 0; i < values_.size(); ++i)
         values_[i]->setText(toQt(*texts[i]));
+    int button = 0;
+    for (QAction *action : tbar->actions())
+        setWhyOff(*action, toQt(rules_.whyOff(++button)));
     if (rules_.hidden())
         accept();
 }

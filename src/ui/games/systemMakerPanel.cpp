@@ -76,6 +76,9 @@ UpDownField *SystemMakerPanel::addNumber(QGridLayout &grid, const QString &title
     auto *field = new UpDownField(number.upDownControl, boxName, arrowsName, this);
     auto *box = field->findChild<QLineEdit *>(boxName);
     box->setAccessibleName(title);
+    box->setToolTip(QStringLiteral("Un nombre de %1 à %2")
+                        .arg(number.upDownControl.min())
+                        .arg(number.upDownControl.max()));
     connect(field, &UpDownField::boxLeft, this, [this, &number](const QString &text) {
         number.text = fromQt(text);
         runCommand([&] { number.confirm(); });

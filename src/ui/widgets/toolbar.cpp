@@ -65,6 +65,15 @@ QToolBar *makeToolbar(const QString &name, const std::vector<ToolbarButton> &but
     return bar;
 }
 
+void setWhyOff(QAction &button, const QString &why) {
+    constexpr const char *whole = "toolTipWhenOn";
+    if (!button.property(whole).isValid())
+        button.setProperty(whole, button.toolTip());
+    const QString toolTip = button.property(whole).toString();
+    button.setEnabled(why.isEmpty());
+    button.setToolTip(why.isEmpty() ? toolTip : toolTip + QLatin1Char('\n') + why);
+}
+
 void setTabStops(const std::vector<QWidget *> &stops) {
     std::vector<QWidget *> parts;
     for (QWidget *stop : stops) {

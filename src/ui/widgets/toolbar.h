@@ -9,6 +9,7 @@
 #include <functional>
 #include <vector>
 
+class QAction;
 class QToolBar;
 class QWidget;
 
@@ -32,6 +33,10 @@ enum class ToolbarLook { large, slim };
 QToolBar *makeToolbar(const QString &name, const std::vector<ToolbarButton> &buttons,
                       const std::function<void(int)> &clicked, QWidget *parent,
                       ToolbarLook look = ToolbarLook::large);
+
+/// Turns a button off where there is a reason why it can do nothing now, which its tool tip gives
+/// in a second line; on where `why` is empty.
+void setWhyOff(QAction &button, const QString &why);
 
 /// The Tab key goes through `stops` in this order, and through all buttons of a toolbar. A field
 /// made of several parts must be made in its turn instead.

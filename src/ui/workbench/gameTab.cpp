@@ -7,7 +7,9 @@
 #include "ui/games/gameListDialog.h"
 #include "ui/games/optimiserDialog.h"
 #include "ui/style/theme.h"
+#include "ui/widgets/elidedLabel.h"
 #include "ui/widgets/fittingTabs.h"
+#include "ui/widgets/qtText.h"
 #include "ui/widgets/reportView.h"
 #include "ui/widgets/scrollPanel.h"
 #include "ui/widgets/toolbar.h"
@@ -16,6 +18,7 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QHBoxLayout>
+#include <QItemSelectionModel>
 #include <QMenu>
 #include <QToolBar>
 #include <QToolButton>
@@ -26,6 +29,8 @@ namespace boulix {
 GameTab::GameTab(gamePage &page, winningsPage &winnings, QWidget *parent)
     : QWidget(parent), page_(page), tbarGame(makeToolbar()),
       lvwGame(new ReportView(page.lvwGame, this)),
+      count_(makeLine(QStringLiteral("lblGameCount"), QStringLiteral("Grilles et prix du jeu"))),
+      file_(makeLine(QStringLiteral("lblGameFile"), QStringLiteral("Fichier du jeu"))),
       chkUpdateList(new QCheckBox(QStringLiteral("&Mise à jour de la liste"), this)),
       TabGame(new FittingTabs(this)), design_(new GameDesignPanel(page.design, this)),
       winnings_(new WinningsPanels(winnings, this)) {
@@ -87,6 +92,8 @@ QWidget *GameTab::makeGame() {
     lvwGame->setObjectName(QStringLiteral("lvwGame"));
     lvwGame->setAccessibleName(QStringLiteral("Grilles du jeu courant"));
     lvwGame->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    connect(lvwGame->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &GameTab::showButtons);
     chkUpdateList->setObjectName(QStringLiteral("chkUpdateList"));
     chkUpdateList->setToolTip(QStringLiteral("Garder la liste des grilles à jour"));
     connect(chkUpdateList, &QCheckBox::clicked, this,
@@ -95,8 +102,19 @@ QWidget *GameTab::makeGame() {
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(theme::gap);
     column->addWidget(lvwGame, 1);
+    column->addWidget(count_);
+    column->addWidget(file_);
     column->addWidget(chkUpdateList, 0, Qt::AlignLeft);
     return side;
+}
+
+/// A line under the list, which is what decides how wide this side is.
+ElidedLabel *GameTab::makeLine(const QString &name, const QString &title) {
+    auto *line = new ElidedLabel(this);
+    line->setObjectName(name);
+    line->setAccessibleDescription(title);
+    line->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    return line;
 }
 
 QWidget *GameTab::makeSides(winningsPage &winnings) {
@@ -131,8 +149,23 @@ std::vector<std::int64_t> GameTab::selectedRows() const {
     return lvwGame->selectedRows();
 }
 
+bool GameTab::anyRowSelected() const {
+    return lvwGame->selectionModel()->hasSelection();
+}
+
+/// The buttons that have nothing to act on are off.
+void GameTab::showButtons() {
+    int button = 0;
+    for (QAction *action : tbarGame->actions())
+        setWhyOff(*action, toQt(page_.whyOff(++button)));
+}
+
 void GameTab::refresh() {
     chkUpdateList->setChecked(page_.chkUpdateList());
+    count_->setText(toQt(page_.lblCount()));
+    file_->setText(toQt(page_.lblFile()));
+    file_->setToolTip(toQt(page_.document.file()));
+    showButtons();
     design_->refresh();
 }
 

@@ -13,6 +13,7 @@ class QToolBar;
 
 namespace boulix {
 
+class ElidedLabel;
 class GameDesignPanel;
 class ReportView;
 class WinningsPanels;
@@ -29,6 +30,7 @@ class GameTab : public QWidget, public gameView {
     ~GameTab() override;
 
     std::vector<std::int64_t> selectedRows() const override;
+    bool anyRowSelected() const override;
     void refresh() override;
     void runGameList(frmGameList &window) override;
     void runOptimiser(frmOptimiser &window) override;
@@ -37,12 +39,16 @@ class GameTab : public QWidget, public gameView {
     QToolBar *makeToolbar();
     void makePrintMenu();
     QWidget *makeGame();
+    ElidedLabel *makeLine(const QString &name, const QString &title);
+    void showButtons();
     QWidget *makeSides(winningsPage &winnings);
     void addSide(QWidget *side, const QString &caption);
 
     gamePage &page_;
     QToolBar *tbarGame; // made first: Tab goes through the controls in the order of their making
     ReportView *lvwGame;
+    ElidedLabel *count_; ///< how many grids there are and what they cost
+    ElidedLabel *file_;
     QCheckBox *chkUpdateList;
     QTabWidget *TabGame;
     GameDesignPanel *design_;

@@ -3,6 +3,7 @@
 
 #include "ui/workbench/mainParts.h"
 
+#include "core/globals.h"
 #include "printing/frmGridParam.h"
 #include "stats/frmGraph.h"
 #include "ui/draws/databaseTab.h"
@@ -45,6 +46,7 @@ QWidget *makeForecasts(frmMain &main, QWidget *parent) {
 void runGridParam(QWidget *parent) {
     frmGridParam rules;
     GridParamDialog(rules, parent).exec();
+    boulix::mainWindow->games.showPrice();
 }
 
 void runGraphParam(QWidget *parent) {

@@ -9,6 +9,7 @@
 
 #include <QAction>
 #include <QCheckBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QtTest/QTest>
@@ -92,6 +93,31 @@ TEST_F(EliminatorTabTest, SavedRulesComeBackIntoBoxesAndTicks) {
     EXPECT_TRUE(rule(0).isChecked());
     EXPECT_FALSE(rule(1).isChecked());
     EXPECT_EQ(value(0).text().toStdString(), "3");
+}
+
+TEST_F(EliminatorTabTest, ABoxTellsItsRangeAndWhyItIsOff) {
+    EXPECT_EQ(value(0).placeholderText().toStdString(), "2 à 6");
+    EXPECT_EQ(value(3).placeholderText().toStdString(), "21 à 279");
+    EXPECT_EQ(value(3).toolTip().toStdString(),
+              "Valeur de l'éliminateur, 21 à 279\nCochez la règle pour donner sa valeur");
+    tick(3);
+    EXPECT_EQ(value(3).toolTip().toStdString(), "Valeur de l'éliminateur, 21 à 279");
+}
+
+TEST_F(EliminatorTabTest, TheNumbersOfTheListStandBesideItsButton) {
+    const auto &numbers = control<QLabel>(window, "lblList");
+    EXPECT_EQ(numbers.text().toStdString(), "Aucun numéro dans la liste");
+    EXPECT_FALSE(numbers.isEnabled());
+    tick(7);
+    robot.in("frmNbrSelector", [](QWidget &dialog) {
+        auto &board = control<NumberBoardView>(dialog, "grd");
+        for (const std::int16_t n : {std::int16_t{13}, std::int16_t{7}})
+            QTest::mouseClick(&board, Qt::LeftButton, {}, board.boxOf(n).center().toPoint());
+        click(control<QPushButton>(dialog, "cmdOK"));
+    });
+    click(listButton());
+    EXPECT_EQ(numbers.text().toStdString(), "7, 13");
+    EXPECT_TRUE(numbers.isEnabled());
 }
 
 } // namespace

@@ -82,6 +82,22 @@ void keepPages() {
     keep(window, QStringLiteral("winnings-smallest"));
 }
 
+/// The page as it is before there is any grid, and with a game that is not saved.
+void keepEmptyPages() {
+    currentGame->clear();
+    constructionGame->clear();
+    mainWindow->games.refill();
+    MainWindow window(*mainWindow, mainParts());
+    mainWindow->clickTab(5);
+    for (const int tab : {gameDesign::reducedTab, gameDesign::createTab}) {
+        mainWindow->games.design.clickTab(tab);
+        keep(window, QStringLiteral("gameTab-empty-%1").arg(tab));
+    }
+    frmGameList list;
+    GameListDialog listDialog(list);
+    keep(listDialog, QStringLiteral("frmGameList-empty"));
+}
+
 /// All places of the main window at one size.
 void keepPlaces(const QSize &size) {
     mainWindow->statistics.pickType(1);
@@ -157,6 +173,7 @@ void keepGames() {
     keepPages();
     keepDialogs();
     keepChances();
+    keepEmptyPages();
 }
 
 void keepPlacesAt(const QSize &size) {

@@ -108,8 +108,28 @@ TEST_F(GameListTest, WithoutASelectedRowTheButtonsDoNothing) {
     });
 }
 
-TEST_F(GameListTest, TheButtonsAreNamedAndExplained) {
+TEST_F(GameListTest, WithoutASelectedRowTheButtonsAreOffAndSayWhy) {
+    makeSystem("Mon système");
     manage([](QWidget &dialog) {
+        for (int button = frmGameList::removeGame; button <= frmGameList::displayGame; ++button) {
+            const auto &action =
+                control<QAction>(dialog, ("tbar_" + std::to_string(button)).c_str());
+            EXPECT_FALSE(action.isEnabled());
+            EXPECT_EQ(action.toolTip().section(QLatin1Char('\n'), 1).toStdString(),
+                      "Cliquez d'abord sur un jeu de la liste.");
+        }
+        clickRow(control<ReportView>(dialog, "lvwGame"), 1);
+        for (int button = frmGameList::removeGame; button <= frmGameList::quit; ++button)
+            EXPECT_TRUE(
+                control<QAction>(dialog, ("tbar_" + std::to_string(button)).c_str()).isEnabled());
+        pressIn(dialog, frmGameList::quit);
+    });
+}
+
+TEST_F(GameListTest, TheButtonsAreNamedAndExplained) {
+    makeSystem("Mon système");
+    manage([](QWidget &dialog) {
+        clickRow(control<ReportView>(dialog, "lvwGame"), 1); // all of them can act
         for (int button = 1; button <= 6; ++button) {
             const auto &action =
                 control<QAction>(dialog, ("tbar_" + std::to_string(button)).c_str());

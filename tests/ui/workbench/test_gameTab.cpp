@@ -21,6 +21,8 @@ const std::string clearQuestion = "Etes-vous sûr de vouloir effacer le jeu?";
 class GameTabTest : public GameScreenTest {};
 
 TEST_F(GameTabTest, TheButtonsAreNamedAndExplained) {
+    makeSevenGrids();
+    clickRow(list("lvwGame"), 1); // all of them can act
     for (int button = 1; button <= 6; ++button) {
         const auto &action =
             control<QAction>(window, ("tbarGame_" + std::to_string(button)).c_str());
@@ -233,6 +235,60 @@ TEST_F(GameTabTest, ThePrintButtonOpensAMenuOfThree) {
         EXPECT_EQ(menu.actions()[entry]->text().toStdString(),
                   gamePage::printMenu[static_cast<std::size_t>(entry)]);
     }
+}
+
+TEST_F(GameTabTest, AButtonWithNothingToActOnIsOffAndItsToolTipSaysWhy) {
+    const auto button = [this](const char *name) -> QAction & {
+        return control<QAction>(window, name);
+    };
+    EXPECT_FALSE(button("tbarGame_2").isEnabled());
+    EXPECT_EQ(button("tbarGame_2").toolTip().toStdString(),
+              std::string(gamePage::tbarGame[1].toolTip) + "\nLe jeu est vide.");
+    EXPECT_FALSE(button("tbarGameDef_3").isEnabled());
+    EXPECT_TRUE(button("tbarGameDef_1").isEnabled()) << "it has its message";
+    makeSevenGrids();
+    EXPECT_TRUE(button("tbarGame_2").isEnabled());
+    EXPECT_TRUE(button("tbarGameDef_3").isEnabled());
+    EXPECT_FALSE(button("tbarGame_3").isEnabled()) << "no row is selected";
+    clickRow(list("lvwGame"), 2);
+    EXPECT_TRUE(button("tbarGame_3").isEnabled());
+    mainWindow->undo();
+    EXPECT_FALSE(button("tbarGame_3").isEnabled());
+}
+
+TEST_F(GameTabTest, CountPriceAndFileStandUnderTheGame) {
+    const auto text = [this](const char *name) {
+        return control<QLabel>(window, name).text().toStdString();
+    };
+    EXPECT_EQ(text("lblGameCount"), "0 grille, 0 euro");
+    EXPECT_EQ(text("lblGameFile"), "");
+    makeSevenGrids();
+    EXPECT_EQ(text("lblDesignCount"), "7 grilles, 4,20 euros");
+    EXPECT_EQ(text("lblGameCount"), "7 grilles, 4,20 euros");
+    EXPECT_EQ(text("lblGameFile"), "\u25cf Jeu non enregistré");
+    robot.chooseFile(file("soir.lst"));
+    press("tbarGame_5");
+    EXPECT_EQ(text("lblGameFile"), "soir.lst");
+    EXPECT_EQ(text("announcement"), "Jeu enregistré dans soir.lst : 7 grilles");
+    robot.in("frmGridParam", [](QWidget &dialog) {
+        control<QLineEdit>(dialog, "txtPrice").setText(QStringLiteral("2.2"));
+        click(control<QPushButton>(dialog, "CMD_OK"));
+    });
+    press("mnuGrid");
+    EXPECT_EQ(text("lblGameCount"), "7 grilles, 15,40 euros");
+    EXPECT_EQ(text("lblDesignCount"), "7 grilles, 15,40 euros");
+}
+
+TEST_F(GameTabTest, AFailureInABoxOfAnotherPageLeadsThere) {
+    makeSevenGrids();
+    mainWindow->elimination.tick(0, true);
+    mainWindow->elimination.txtEliminator[0] = "1";
+    robot.in("messageBox", [](QWidget &box) {
+        click(*dynamic_cast<QMessageBox &>(box).button(QMessageBox::Ok));
+    });
+    press("tbarGame_4");
+    EXPECT_EQ(mainWindow->visiblePage(), 3);
+    EXPECT_EQ(window.focusWidget(), &control<QLineEdit>(window, "txtEliminator_0"));
 }
 
 } // namespace

@@ -40,14 +40,17 @@ class GameTabOrderTest : public GameScreenTest {
 };
 
 TEST_F(GameTabOrderTest, EachMethodIsReachedBehindTheGameFromItsTabDownToItsResult) {
+    makeSevenGrids();
+    clickRow(list("lvwGame"), 1); // every button can act
     const Names design = game + Names{"tabGameDesign"};
     const Names compute = design + numbered("tbarGameDef_", 1, 4);
+    const Names link{"emptyPlace"}; // to the grids made elsewhere
     const Names result{"grdGameDef", "lvwGameDef"};
     const std::pair<int, Names> methods[] = {
-        {gameDesign::reducedTab, compute + Names{"cmbGameType"} + result},
-        {gameDesign::fixedTab, compute + Names{"cmbGameType"} + result},
+        {gameDesign::reducedTab, compute + Names{"cmbGameType"} + result + link},
+        {gameDesign::fixedTab, compute + Names{"cmbGameType"} + result + link},
         {gameDesign::manualTab, compute + result},
-        {gameDesign::randomTab, compute + Names{"txtNrandomGrid"} + result},
+        {gameDesign::randomTab, compute + Names{"txtNrandomGrid"} + result + link},
         {gameDesign::selectorsTab, design + numbered("chkSelect_", 0, 2)},
         {gameDesign::createTab,
          design + numbered("tbarCreateGame_", 1, 4) +
@@ -74,10 +77,14 @@ TEST_F(GameTabOrderTest, EachRuleIsReachedInItsOrderWithItsBoxBehindIt) {
 }
 
 TEST_F(GameTabOrderTest, TheWindowOfTheSystemsGoesFromItsButtonsToItsList) {
+    modGame::reducedGames.push_back(modGame::reducedGames[1]);
     frmGameList systems;
     GameListDialog dialog(systems);
     dialog.show();
+    EXPECT_EQ(tabOrder(dialog), (Names{"tbar_6", "lvwGame"})) << "the others need a system";
+    systems.clickRow(1);
     EXPECT_EQ(tabOrder(dialog), numbered("tbar_", 1, 6) + Names{"lvwGame"});
+    modGame::init();
 }
 
 TEST_F(GameTabOrderTest, TheWindowOfRowsGoesFromThemToItsButton) {

@@ -4,10 +4,12 @@
 // The whole round that the Tab key takes through the winnings, the forecasts and their windows.
 
 #include "core/globals.h"
+#include "games/game.h"
 #include "support/lottery.h"
 #include "ui/forecasts/testPronoDialog.h"
 #include "ui/support/screenTest.h"
 #include "ui/support/tabOrder.h"
+#include "ui/widgets/reportView.h"
 #include "ui/winnings/winDateDialog.h"
 #include "winnings/gameWin.h"
 #include "workbench/frmMain.h"
@@ -28,6 +30,9 @@ class PageTabOrderTest : public ScreenTest {
     PageTabOrderTest() : window(start()) {
         addDraw({1, 2, 3, 4, 5, 6, 7});
         mainWindow->frmUpdateDBList();
+        currentGame->Add(GridRef(gameComb({1, 2, 3, 4, 5, 6})));
+        mainWindow->games.refill();
+        control<ReportView>(window, "lvwGame").selectAll(); // every button can act
     }
     /// The round through a sub-tab of the game page, from the strip of the sub-tabs on.
     Names roundOfSide(int index) {

@@ -1,0 +1,140 @@
+// SPDX-FileCopyrightText: The Boulix developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// Taking back what was done to a game of all grids of 49 numbers: the time, and the memory that it
+// is kept in.
+
+#include "games/gameStep.h"
+#include "games/gameWorkplace.h"
+#include "sill/undo.h"
+#include "support/ratio.h"
+#include "workbench/eliminatorPage.h"
+#include "workbench/gamePage.h"
+
+#include <cstring>
+#include <new>
+
+namespace boulix {
+namespace {
+
+using bench_support::GameWorkplace;
+using bench_support::measureRatio;
+using bench_support::secondsOf;
+
+constexpr double allGrids = 13'983'816;
+
+/// Noting a list against a plain copy of as many bytes to memory that is as fresh.
+void NotingTheListAgainstCopyingItsBytes(benchmark::State &state) {
+    GameWorkplace place;
+    game made;
+    made.ComputeManualGame(place.firstNumbers(49));
+    const std::size_t bytes = made.refs().size() * sizeof(GridRef);
+    const auto alignment = std::align_val_t{largePage};
+    void *const original = ::operator new(bytes, alignment);
+    std::memset(original, 1, bytes);
+    GridList noted;
+    void *copy = nullptr;
+    measureRatio(
+        state, 4, [&] { noted = made.list(); },
+        [&] {
+            if (copy)
+                ::operator delete(copy, alignment);
+            copy = ::operator new(bytes, alignment);
+            wantLargePages(copy, bytes);
+            std::memcpy(copy, original, bytes);
+            benchmark::DoNotOptimize(copy);
+        });
+    ::operator delete(copy, alignment);
+    ::operator delete(original, alignment);
+}
+BENCHMARK(NotingTheListAgainstCopyingItsBytes)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond)
+    ->Iterations(7);
+
+/// The game page with all grids, added from those under construction, which hold them, too.
+class FullPage {
+  public:
+    FullPage() {
+        page.init();
+        page.view(&view_);
+        page.design.clickTab(gameDesign::manualTab);
+        place_.desktop.chosen = 49;
+        page.design.clickButton(gameDesign::selectNumbers);
+        page.design.clickButton(gameDesign::computeGame);
+        page.design.clickButton(gameDesign::addGame);
+    }
+    ~FullPage() { page.view(nullptr); }
+
+    /// Clicks a button, and measures how long the undo and the redo of it take and how many bytes
+    /// a grid the step takes beside the game.
+    void measure(benchmark::State &state, gamePage::Button button) {
+        bench_support::forgetPeak();
+        const std::int64_t before = bench_support::memoryInUse();
+        page.clickButton(button);
+        state.counters["bytesPerGrid"] =
+            static_cast<double>(bench_support::memoryInUse() - before) / allGrids;
+        double longest = 0;
+        for (auto _ : state) {
+            const double undo = secondsOf([] { gUndo->undo(); });
+            const double redo = secondsOf([] { gUndo->redo(); });
+            longest = std::max({longest, undo, redo});
+            state.SetIterationTime(undo);
+        }
+        state.counters["longest_ms"] = 1000 * longest;
+        state.counters["goal_ms"] = 100;
+    }
+
+    std::vector<std::int64_t> selected;
+    eliminatorPage rules;
+    gamePage page{rules};
+
+  private:
+    class View : public gameView {
+      public:
+        explicit View(FullPage &full) : full_(full) {}
+        std::vector<std::int64_t> selectedRows() const override { return full_.selected; }
+        bool anyRowSelected() const override { return !full_.selected.empty(); }
+        void refresh() override {}
+        void runGameList(frmGameList &) override {}
+        void runOptimiser(frmOptimiser &) override {}
+
+      private:
+        FullPage &full_;
+    };
+
+    GameWorkplace place_;
+    View view_{*this};
+};
+
+void UndoOfEffacer(benchmark::State &state) {
+    FullPage full;
+    full.measure(state, gamePage::clearGame);
+}
+BENCHMARK(UndoOfEffacer)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(5);
+
+void UndoOfAjouter(benchmark::State &state) {
+    FullPage full;
+    full.measure(state, gamePage::printGame); // no command: the last one was "Ajouter"
+}
+BENCHMARK(UndoOfAjouter)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(5);
+
+/// One grid near the start: all others move.
+void UndoOfSupprimer(benchmark::State &state) {
+    FullPage full;
+    full.selected = {2};
+    full.measure(state, gamePage::removeGrids);
+}
+BENCHMARK(UndoOfSupprimer)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(5);
+
+void UndoOfEliminer(benchmark::State &state) {
+    FullPage full;
+    full.rules.init();
+    full.rules.tick(4, true);
+    full.rules.txtEliminator[4] = "4";
+    full.measure(state, gamePage::eliminateGrids);
+}
+BENCHMARK(UndoOfEliminer)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(5);
+
+} // namespace
+} // namespace boulix
