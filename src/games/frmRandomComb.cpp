@@ -7,6 +7,7 @@
 #include "core/platform.h"
 #include "core/text.h"
 #include "sill/reports.h"
+#include "sill/typedField.h"
 
 #include <algorithm>
 #include <array>
@@ -14,6 +15,9 @@
 namespace boulix {
 
 namespace {
+
+const TypedField countField = {"txtnComb", "Nombre de combinaisons",
+                               "un nombre entier jusqu'à 32 767"};
 
 enum Column { positionColumn, firstNumberColumn, complementaryColumn = 7 };
 
@@ -51,6 +55,7 @@ frmRandomComb::frmRandomComb() {
     for (const char *header : {"1", "2", "3", "4", "5", "6", "C"})
         columns.push_back({header, " 000 ", true});
     lvWComb.columns(std::move(columns));
+    lvWComb.whenEmpty({"Donnez le nombre de combinaisons, puis cliquez sur Calculer."});
 }
 
 void frmRandomComb::clickCompute() {
@@ -61,7 +66,9 @@ void frmRandomComb::compute() {
     lvWComb.clear();
     draws_.clear();
     platform().seedRandomFromClock();
-    const std::int16_t count = toInt16(wholeNumberText(txtnComb));
+    const std::int16_t count = readField(countField, txtnComb, [](const std::string &typed) {
+        return toInt16(wholeNumberText(typed));
+    });
     // 32 bits to count with: 16 of them never get beyond the largest count.
     for (std::int32_t i = 1; i <= count; ++i)
         draws_.push_back(randomDraw());

@@ -114,6 +114,10 @@ TEST_F(RandomCombTest, ACountThatIsNoNumberOrTooLargeIsShownAsAFailure) {
     EXPECT_EQ(desktop.messages[0].title, "Boulix Erreur système N° 13");
     EXPECT_EQ(desktop.messages[1].title, "Boulix Erreur système N° 13");
     EXPECT_EQ(desktop.messages[2].title, "Boulix Erreur système N° 6");
+    EXPECT_EQ(desktop.messages[1].text,
+              "Incompatibilité de type\r\n« Nombre de combinaisons » attend un nombre entier "
+              "jusqu'à 32 767 ; il y avait « beaucoup ».");
+    EXPECT_EQ(desktop.focusedFields, std::vector<std::string>(3, "txtnComb"));
 }
 
 TEST_F(RandomCombTest, ACountThatIsNoNumberClearsTheList) {

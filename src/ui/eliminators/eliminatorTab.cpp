@@ -15,6 +15,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QStyle>
 #include <QToolBar>
 #include <QVBoxLayout>
 
@@ -79,7 +80,9 @@ void EliminatorTab::addLines(QGridLayout &grid) {
     list_->setObjectName(QStringLiteral("lblList"));
     list_->setAccessibleDescription(QStringLiteral("Numéros de la liste"));
     list_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    list_->setIndent(3 * theme::margin); // under the text of its rule
+    const int toText = style()->pixelMetric(QStyle::PM_IndicatorWidth) +
+                       style()->pixelMetric(QStyle::PM_CheckBoxLabelSpacing);
+    list_->setContentsMargins(toText, 0, 0, 0); // it stands under the text of its rule
     noRules_ = new QLabel(this);
     noRules_->setObjectName(QStringLiteral("lblNoRules"));
     noRules_->setWordWrap(true);

@@ -37,7 +37,8 @@ RandomCombDialog::RandomCombDialog(frmRandomComb &rules, QWidget *parent)
 QHBoxLayout *RandomCombDialog::makeCountRow() {
     auto *txtnComb = new QLineEdit(toQt(rules_.txtnComb), this);
     txtnComb->setObjectName(QStringLiteral("txtnComb"));
-    txtnComb->setToolTip(QStringLiteral("Nombre de tirages à simuler"));
+    txtnComb->setToolTip(QStringLiteral("Nombre de tirages à simuler, jusqu'à 32 767"));
+    txtnComb->setPlaceholderText(QStringLiteral("1 à 32 767"));
     txtnComb->setFixedWidth(fontMetrics().averageCharWidth() * 12);
     connect(txtnComb, &QLineEdit::textEdited, this,
             [this](const QString &text) { rules_.txtnComb = fromQt(text); });

@@ -164,6 +164,7 @@ void GameTab::refresh() {
     chkUpdateList->setChecked(page_.chkUpdateList());
     count_->setText(toQt(page_.lblCount()));
     file_->setText(toQt(page_.lblFile()));
+    file_->setVisible(!file_->text().isEmpty());
     file_->setToolTip(toQt(page_.document.file()));
     showButtons();
     design_->refresh();

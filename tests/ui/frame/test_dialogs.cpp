@@ -89,6 +89,15 @@ TEST_F(DialogsTest, EscapeOnAQuestionMeansNo) {
     EXPECT_FALSE(desktop->askYesNo("Sûr?", Icon::question, "boulix"));
 }
 
+TEST_F(DialogsTest, ASaveDialogProposesItsName) {
+    robot.in("comDiag", [](QWidget &dialog) {
+        EXPECT_EQ(control<QLineEdit>(dialog, "fileNameEdit").text().toStdString(), "jeu.lst");
+        press(Qt::Key_Escape);
+    });
+    EXPECT_EQ(desktop->saveFile({"Fichier jeu Boulix (*.lst)|*.lst", "Jeux", file(""), "jeu.lst"}),
+              "");
+}
+
 TEST_F(DialogsTest, EnterOnAQuestionMeansYesButNotWhereSomethingIsErased) {
     robot.in("messageBox", [](QWidget &) { press(Qt::Key_Return); });
     EXPECT_TRUE(desktop->askYesNo("Sûr?", Icon::question, "boulix"));

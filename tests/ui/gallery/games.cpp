@@ -43,6 +43,7 @@ void makeGames() {
     modMaths::precomputeCnk();
     modGame::init();
     gEliminators->init();
+    gGridConfig->load();
     for (std::int16_t rank = 0; rank < rapport::size; ++rank)
         gRapport->Value(rank, static_cast<float>(rank * rank) * 2.5F);
     const gameDef &system = modGame::reducedGames[1];
