@@ -360,9 +360,9 @@ void gameDesign::tellEmpty() {
     if (currentTab_ == createTab)
         lvwGameDef.whenEmpty({"Fixez les trois nombres, puis cliquez sur Calculer."});
     else if (madeElsewhere)
-        lvwGameDef.whenEmpty(
-            {"Les grilles en construction viennent de « " + captionOf(lastGameType_) + " ».",
-             "Les revoir", [this] { clickTab(lastGameType_); }});
+        lvwGameDef.whenEmpty({"Les grilles en construction viennent de «\u00a0" +
+                                  captionOf(lastGameType_) + "\u00a0».",
+                              "Les revoir", [this] { clickTab(lastGameType_); }});
     else if (gameSelector_.nSelectedNbr() == 0)
         lvwGameDef.whenEmpty({"Choisissez des numéros, cliquez sur Calculer, puis sur Ajouter.",
                               "Choisir des numéros", [this] { clickButton(selectNumbers); }});

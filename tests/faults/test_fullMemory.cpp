@@ -169,6 +169,15 @@ TEST_F(FullMemory, AnEliminationLeavesTheGameAsItWas) {
     expectKept([] { currentGame->EliminComb(); }, counts);
 }
 
+TEST_F(FullMemory, AnEliminationThatCanNotBeNotedForItsUndoLeavesTheGameAsItWas) {
+    fillGame(*currentGame, 6'000'000);
+    mainWindow->games.init();
+    mainWindow->elimination.tick(2, true);
+    mainWindow->elimination.txtEliminator[2] = "21";
+    mainWindow->games.tickUpdateList(false); // the desktop of the tests notes each step
+    expectKept([] { mainWindow->games.clickButton(gamePage::eliminateGrids); }, counts);
+}
+
 TEST_F(FullMemory, ASaveLeavesTheOldFile) {
     fillGame(*currentGame, 100'000);
     writeBytes(file("jeu.lst"), "vieux");

@@ -378,7 +378,7 @@ TEST_F(GameUndoTest, AnEmptyListOfNewGridsLeadsFromStepToStep) {
     EXPECT_EQ(design.lvwGameDef.rowCount(), 7);
     design.clickTab(gameDesign::randomTab);
     EXPECT_EQ(design.lvwGameDef.whenEmpty().sentence,
-              "Les grilles en construction viennent de « Manuel ».");
+              "Les grilles en construction viennent de «\u00a0Manuel\u00a0».");
     EXPECT_EQ(follow(), "Les revoir");
     EXPECT_EQ(design.currentTab(), gameDesign::manualTab);
     EXPECT_EQ(design.lvwGameDef.rowCount(), 7);

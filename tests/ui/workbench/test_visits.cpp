@@ -101,6 +101,7 @@ class FocusTest : public ScreenTest {
 
 TEST_F(FocusTest, AClickOnAToolButtonLeavesTheFocusWhereItIs) {
     const Impatience nobody;
+    mainWindow->games.design.txtNrandomGrid = "0"; // without a count its box would take the focus
     int clicks = 0;
     for (const Place &place : testing_support::placesOfMainWindow()) {
         place.goThere(window);
