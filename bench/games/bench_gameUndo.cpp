@@ -4,10 +4,12 @@
 // Taking back what was done to a game of all grids of 49 numbers: the time, and the memory that it
 // is kept in.
 
+#include "draws/lotoComb.h"
 #include "games/gameStep.h"
 #include "games/gameWorkplace.h"
 #include "sill/undo.h"
 #include "support/ratio.h"
+#include "winnings/gameResult.h"
 #include "workbench/eliminatorPage.h"
 #include "workbench/gamePage.h"
 
@@ -54,11 +56,16 @@ BENCHMARK(NotingTheListAgainstCopyingItsBytes)
     ->Unit(benchmark::kMillisecond)
     ->Iterations(notings);
 
-/// The game page with all grids, added from those under construction, which hold them, too.
+/// The game page with all grids, added from those under construction, which hold them, too. Each
+/// time it shows a game, that is checked against a draw, as on the tab of the verification.
 class FullPage {
   public:
     FullPage() {
         page.init();
+        page.gameShown = [this] { benchmark::DoNotOptimize(currentGame->verify(draw_)); };
+        for (int i = 1; i <= lotoComb::size; ++i)
+            draw_.num(i, static_cast<std::int16_t>(7 * i));
+        draw_.compl_(1);
         page.view(&view_);
         page.design.clickTab(gameDesign::manualTab);
         place_.desktop.chosen = 49;
@@ -105,6 +112,7 @@ class FullPage {
         FullPage &full_;
     };
 
+    lotoComb draw_;
     GameWorkplace place_;
     View view_{*this};
 };

@@ -96,7 +96,7 @@ void systemMaker::compute() {
     newGameDef_.reset(); // half a system guarantees nothing
     const auto made = std::make_shared<gameDef>();
     if (!made->compute(createNFixed_, createNWin_, createNChosen_))
-        return;
+        return desktop().announce("Calcul annulé");
     newGameDef_ = made;
     showSystem();
     desktop().announce("Système calculé : " + countAndPrice(made->nComb()));

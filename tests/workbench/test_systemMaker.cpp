@@ -128,6 +128,7 @@ TEST_F(SystemMakerTest, ACancelledCalculationLeavesListAndLabels) {
     click(systemMaker::computeSystem);
     EXPECT_EQ(page.design.lvwGameDef.rowCount(), 28);
     EXPECT_EQ(maker.lblnGameDefComb, "28 combinaisons");
+    EXPECT_EQ(desktop.announcements.back(), "Calcul annulé");
 }
 
 TEST_F(SystemMakerTest, AjouterWithoutASystemIsAFailureThatIsShown) {
