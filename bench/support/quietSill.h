@@ -35,7 +35,9 @@ class QuietDesktop : public Desktop {
     std::string openFile(const FileQuestion &) override { return fileName; }
     std::string saveFile(const FileQuestion &) override { return fileName; }
     void runNumberDialog(frmNbrSelector &) override {}
-    DrawDate runDateDialog() override { return {platform().today(), 1}; }
+    std::optional<DrawDate> runDateDialog(const std::optional<DrawDate> &) override {
+        return DrawDate{platform().today(), 1};
+    }
     void progressLoaded(frmProgress &) override {}
     void progressUnloaded() override {}
     void runEvents() override {}

@@ -32,13 +32,16 @@ void dbComb::modify() {
 
     selector selection;
     selection.setSelect(numbersOfDraw, numbersOfDraw);
+    selection.lastIsComplementary();
     selection.setPrevSelect(numbersOfDraw, present);
     selection.selectNbr();
     if (selection.nSelectedNbr() == 0)
         return;
-    const DrawDate date = desktop().runDateDialog();
-    day_ = date.day;
-    id_ = date.id;
+    const std::optional<DrawDate> date = desktop().runDateDialog(DrawDate{day_, id_});
+    if (!date)
+        return;
+    day_ = date->day;
+    id_ = date->id;
     // The sum is not set back before: it piles up on the old one until the base is loaded again.
     fillFrom(selection, comb_);
 }
@@ -52,13 +55,16 @@ void dbCombs::modify(std::int32_t index) {
 void dbCombs::AddNewDBComb() {
     selector selection;
     selection.setSelect(numbersOfDraw, numbersOfDraw);
+    selection.lastIsComplementary();
     selection.selectNbr();
     if (selection.nSelectedNbr() == 0)
         return;
-    const DrawDate date = desktop().runDateDialog();
+    const std::optional<DrawDate> date = desktop().runDateDialog(std::nullopt);
+    if (!date)
+        return;
     lotoComb comb;
     fillFrom(selection, comb);
-    Add(date.day, date.id, comb, true, "");
+    Add(date->day, date->id, comb, true, "");
 }
 
 } // namespace boulix

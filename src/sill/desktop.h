@@ -79,8 +79,10 @@ class Desktop {
 
     /// Shows the number dialog modally until its tag says that it was confirmed or cancelled.
     virtual void runNumberDialog(frmNbrSelector &dialog) = 0;
-    /// Shows the date dialog modally, opened on today and draw 1.
-    virtual DrawDate runDateDialog() = 0;
+    /// Shows the date dialog modally, opened on today and draw 1. `changed` is the draw that is
+    /// being changed, where there is one: the dialog names it and offers its date. Nothing when
+    /// the dialog was left without an answer.
+    virtual std::optional<DrawDate> runDateDialog(const std::optional<DrawDate> &changed) = 0;
 
     /// The progress window appears and the main window is disabled, until it is unloaded.
     virtual void progressLoaded(frmProgress &progress) = 0;

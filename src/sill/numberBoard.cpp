@@ -34,6 +34,17 @@ void NumberBoard::selectComplementary(std::int16_t n) {
     changed();
 }
 
+void NumberBoard::complementaryAt(std::int16_t place) {
+    complementaryAt_ = place;
+    changed();
+}
+
+bool NumberBoard::isComplementary(std::int16_t n) const {
+    const bool byPlace = complementaryAt_ > 0 && complementaryAt_ <= selectedCount() &&
+                         selectedNumber(complementaryAt_) == n;
+    return byPlace || (n != 0 && n == complementary_);
+}
+
 void NumberBoard::toggle(std::int16_t n) {
     if (isSelected(n))
         unmark(n);
@@ -50,12 +61,19 @@ bool NumberBoard::isSelected(std::int16_t n) const {
 }
 
 bool NumberBoard::click(std::int16_t n) {
-    const bool full = maxSelected_ > 0 && selectedCount() >= maxSelected_;
-    if (!editable_ || n < 1 || n > lastNumber || (full && !isSelected(n)))
+    if (!editable_ || n < 1 || n > lastNumber)
         return false;
+    const bool full = maxSelected_ > 0 && selectedCount() >= maxSelected_;
+    if (full && !isSelected(n)) {
+        if (refused)
+            refused(n);
+        changed();
+        return false;
+    }
     toggle(n);
     if (selectionChanged)
         selectionChanged();
+    changed(); // what the handler has changed shows, too
     return true;
 }
 

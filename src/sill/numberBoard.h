@@ -29,6 +29,9 @@ class NumberBoard {
     void selectNumber(std::int16_t n);
     /// Marks `n` as the complementary number, in its own look. It counts as a marked number.
     void selectComplementary(std::int16_t n);
+    /// From now on the `place`-th marked number, counted from 1, looks like the complementary one;
+    /// 0: none does by its place.
+    void complementaryAt(std::int16_t place);
     /// Marks `n` where it is unmarked and the other way round, on behalf of the program.
     void toggle(std::int16_t n);
     /// How many numbers are marked.
@@ -37,7 +40,7 @@ class NumberBoard {
     /// `Failure::subscriptOutOfRange`.
     std::int16_t selectedNumber(std::int16_t i) const;
     bool isSelected(std::int16_t n) const;
-    bool isComplementary(std::int16_t n) const { return n != 0 && n == complementary_; }
+    bool isComplementary(std::int16_t n) const;
 
     /// A click of the user on `n`: marks or unmarks it and raises `selectionChanged`. False when
     /// the board is closed or the click would go beyond the limit.
@@ -45,6 +48,8 @@ class NumberBoard {
 
     /// Called after a click of the user that changed the marks.
     std::function<void()> selectionChanged;
+    /// Called after a click of the user that would have gone beyond the limit.
+    std::function<void(std::int16_t n)> refused;
     /// Called after any change, so that the board on the screen is drawn again.
     std::function<void()> repaint;
 
@@ -55,6 +60,7 @@ class NumberBoard {
     std::vector<std::int16_t> marked_;
     std::int16_t maxSelected_ = 0;
     std::int16_t complementary_ = 0;
+    std::int16_t complementaryAt_ = 0;
     bool editable_ = true;
 };
 

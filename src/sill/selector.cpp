@@ -69,6 +69,10 @@ void selector::selectNbr() {
     dialog.grd.editable(true);
     dialog.grd.clearSelection();
     dialog.grd.maxSelected(nSelectedNbr_);
+    dialog.minimum = nMinSelectedNbr_;
+    dialog.lastIsComplementary = lastIsComplementary_;
+    if (lastIsComplementary_)
+        dialog.grd.complementaryAt(nSelectedNbr_);
     // A selection made since then can hold fewer numbers than were set.
     const auto held = static_cast<std::int16_t>(selected_.size());
     const std::int16_t set = modMaths::minOf(nPrevSelected_, held);

@@ -25,6 +25,8 @@ class selector {
     /// The numbers that are marked when the dialog opens: the first `n` of `numbers`, counted
     /// from element 0; fewer than `n` fail with `Failure::subscriptOutOfRange`.
     void setPrevSelect(std::int16_t n, const std::vector<std::int16_t> &numbers);
+    /// The last number that may be chosen is the complementary one of a draw, and looks like it.
+    void lastIsComplementary() { lastIsComplementary_ = true; }
     /// Shows the dialog until it is cancelled or enough numbers are marked.
     void selectNbr();
 
@@ -35,6 +37,7 @@ class selector {
     std::int16_t nSelectedNbr_ = 0;
     std::int16_t nMinSelectedNbr_ = 0;
     std::int16_t nPrevSelected_ = 0;
+    bool lastIsComplementary_ = false;
 };
 
 } // namespace boulix

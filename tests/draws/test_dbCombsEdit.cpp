@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "draws/drawsTest.h"
+#include "sill/frmNbrSelector.h"
 
 #include <gtest/gtest.h>
 
@@ -139,6 +140,52 @@ TEST_F(DrawEditing, ModifyingCancelledStillRewritesTheFileWithTodayAsItsDates) {
     desktop.answerNumbers(NumberScript().cancel());
     gDbCombs->modify(2);
     EXPECT_EQ(baseFileBytes(), drawsFile({drawA, drawB}, {.date = "31/12/2026"}));
+}
+
+TEST_F(DrawEditing, TheDateDialogIsToldWhichDrawIsChangedAndNothingOfANewOne) {
+    desktop.answerNumbers(NumberScript().ok());
+    desktop.answerDate({37640, 2});
+    gDbCombs->modify(2);
+    ASSERT_TRUE(desktop.changedDraw);
+    EXPECT_EQ(desktop.changedDraw->day, 37636);
+    EXPECT_EQ(desktop.changedDraw->id, 1);
+    desktop.answerNumbers(NumberScript().click({1, 2, 3, 4, 5, 6, 7}).ok());
+    desktop.answerDate({37640, 2});
+    gDbCombs->AddNewDBComb();
+    EXPECT_FALSE(desktop.changedDraw);
+}
+
+TEST_F(DrawEditing, LeavingTheDateDialogChangesNothingAndModifyStillSortsAndSaves) {
+    writeBytes(baseFile(), drawsFile({drawA}, {.date = "01/02/2003"}));
+    platform.day = dateOf({2026, 12, 31});
+    desktop.answerNumbers(NumberScript().clear().click({10, 11, 12, 13, 14, 15, 16}).ok());
+    desktop.leaveDate();
+    gDbCombs->modify(1);
+    EXPECT_EQ(rows(), (std::vector<std::string>{rowA, rowB}));
+    EXPECT_EQ(baseFileBytes(), drawsFile({drawA, drawB}, {.date = "31/12/2026"}));
+    desktop.answerNumbers(NumberScript().click({1, 2, 3, 4, 5, 6, 7}).ok());
+    desktop.leaveDate();
+    gDbCombs->AddNewDBComb();
+    EXPECT_EQ(rows(), (std::vector<std::string>{rowA, rowB}));
+}
+
+TEST_F(DrawEditing, TheSeventhNumberLooksLikeTheComplementaryAsSoonAsItIsMarked) {
+    desktop.answerNumbers(NumberScript()
+                              .click({1, 2, 3, 4, 5, 6})
+                              .then([](frmNbrSelector &dialog) {
+                                  for (std::int16_t n = 1; n <= 6; ++n)
+                                      EXPECT_FALSE(dialog.grd.isComplementary(n)) << n;
+                                  dialog.grd.click(17);
+                                  EXPECT_TRUE(dialog.grd.isComplementary(17));
+                                  dialog.grd.click(3);
+                                  EXPECT_FALSE(dialog.grd.isComplementary(17)) << "the sixth now";
+                                  dialog.grd.click(9);
+                                  EXPECT_TRUE(dialog.grd.isComplementary(9));
+                              })
+                              .ok());
+    desktop.answerDate({37640, 1});
+    gDbCombs->AddNewDBComb();
+    EXPECT_EQ(rowOf(gDbCombs->Item(3)), "19/01/2003 (1) 1 2 4 5 6 17 + 9 = 35 44");
 }
 
 TEST_F(DrawEditing, ModifyingADrawThatIsNotThereFails) {

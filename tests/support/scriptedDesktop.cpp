@@ -130,9 +130,10 @@ void ScriptedDesktop::runNumberDialog(frmNbrSelector &dialog) {
     numberShowings.push_back(showing);
 }
 
-DrawDate ScriptedDesktop::runDateDialog() {
+std::optional<DrawDate> ScriptedDesktop::runDateDialog(const std::optional<DrawDate> &changed) {
     ++dateShowings;
-    return nextAnswer(dates_, "the date dialog", DrawDate{platform().today(), 1});
+    changedDraw = changed;
+    return nextAnswer<std::optional<DrawDate>>(dates_, "the date dialog", std::nullopt);
 }
 
 void ScriptedDesktop::progressLoaded(frmProgress &progress) {

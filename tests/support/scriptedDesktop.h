@@ -65,6 +65,7 @@ class ScriptedDesktop : public Desktop {
     std::vector<std::string> announcements; ///< what the status bar said
     std::vector<std::string> focusedFields; ///< the boxes that a failure gave the focus to
     int dateShowings = 0;
+    std::optional<DrawDate> changedDraw; ///< what the last date dialog was asked with
     std::vector<ProgressRun> progressRuns;
     std::vector<SplashTexts> splashes;
     bool splashVisible = false;
@@ -84,7 +85,8 @@ class ScriptedDesktop : public Desktop {
     void answerSave(const std::string &fullName) { saveNames_.push_back(fullName); }
     void cancelSave() { saveNames_.emplace_back(); }
     void answerNumbers(const NumberScript &script) { numbers_.push_back(script); }
-    void answerDate(DrawDate date) { dates_.push_back(date); }
+    void answerDate(DrawDate date) { dates_.emplace_back(date); }
+    void leaveDate() { dates_.emplace_back(std::nullopt); }
     /// The answers that nobody asked for, in words; empty when all were used.
     std::string unusedAnswers() const;
 
@@ -113,7 +115,7 @@ class ScriptedDesktop : public Desktop {
     std::string openFile(const FileQuestion &question) override;
     std::string saveFile(const FileQuestion &question) override;
     void runNumberDialog(frmNbrSelector &dialog) override;
-    DrawDate runDateDialog() override;
+    std::optional<DrawDate> runDateDialog(const std::optional<DrawDate> &changed) override;
     void progressLoaded(frmProgress &progress) override;
     void progressUnloaded() override;
     void runEvents() override;
@@ -130,7 +132,7 @@ class ScriptedDesktop : public Desktop {
     std::deque<std::string> openNames_;
     std::deque<std::string> saveNames_;
     std::deque<NumberScript> numbers_;
-    std::deque<DrawDate> dates_;
+    std::deque<std::optional<DrawDate>> dates_;
     frmProgress *progress_ = nullptr;
     std::optional<std::int64_t> cancelAt_;
 };

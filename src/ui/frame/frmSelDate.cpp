@@ -6,6 +6,7 @@
 #include "core/platform.h"
 #include "ui/style/iconLoader.h"
 #include "ui/style/theme.h"
+#include "ui/widgets/qtText.h"
 #include "ui/widgets/upDownView.h"
 
 #include <QCalendarWidget>
@@ -19,12 +20,12 @@
 
 namespace boulix {
 
-frmSelDate::frmSelDate(QWidget *parent)
-    : QDialog(parent, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint),
-      mvwDate(new QCalendarWidget(this)),
+frmSelDate::frmSelDate(const std::optional<DrawDate> &changed, QWidget *parent)
+    : QDialog(parent), mvwDate(new QCalendarWidget(this)),
       lblTirageTitle(new QLabel(QStringLiteral("Tirage"), this)), lblTirage(new QLabel(this)),
       updTirage(new UpDownView(this)),
-      cmdOK(new QPushButton(QStringLiteral("&Utiliser la date définie"), this)) {
+      cmdOK(new QPushButton(QStringLiteral("&Utiliser la date définie"), this)),
+      cmdCancel(new QPushButton(QStringLiteral("&Annuler"), this)), changed_(changed) {
     setObjectName(QStringLiteral("frmSelDate"));
     setWindowTitle(QStringLiteral("Sélection de la date"));
     mvwDate->setObjectName(QStringLiteral("mvwDate"));
@@ -33,12 +34,15 @@ frmSelDate::frmSelDate(QWidget *parent)
     updTirage->setObjectName(QStringLiteral("updTirage"));
     updTirage->setAccessibleName(QStringLiteral("Tirage du jour"));
     cmdOK->setObjectName(QStringLiteral("cmdOK"));
+    cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
     makeCalendar();
     updTirage->setBuddy(lblTirage);
     updTirage->setRange(1, 2);
     updTirage->setValue(1);
     cmdOK->setDefault(true);
+    cmdCancel->setAutoDefault(false);
     connect(cmdOK, &QPushButton::clicked, this, &frmSelDate::confirm);
+    connect(cmdCancel, &QPushButton::clicked, this, &frmSelDate::reject);
     layOut();
 }
 
@@ -80,18 +84,49 @@ void frmSelDate::layOut() {
     draw->addWidget(updTirage);
     draw->addStretch();
     draw->addWidget(cmdOK);
+    draw->addWidget(cmdCancel);
 
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(theme::margin, theme::margin, theme::margin, theme::margin);
     column->setSpacing(theme::margin);
+    if (changed_ && isValidDate(changed_->day))
+        column->addLayout(makeOwnDate());
     column->addWidget(mvwDate, 1);
     column->addLayout(draw);
 }
 
-DrawDate frmSelDate::answer() const {
+/// The draw that is being changed, and the way back to its date.
+QLayout *frmSelDate::makeOwnDate() {
+    auto *lblChanged = new QLabel(QStringLiteral("Tirage à modifier : n° %1 du %2")
+                                      .arg(changed_->id)
+                                      .arg(toQt(shortDate(changed_->day))),
+                                  this);
+    lblChanged->setObjectName(QStringLiteral("lblChanged"));
+    auto *cmdOwnDate = new QPushButton(QStringLiteral("&Garder sa date"), this);
+    cmdOwnDate->setObjectName(QStringLiteral("cmdOwnDate"));
+    cmdOwnDate->setToolTip(
+        QStringLiteral("Montre la date du tirage et son numéro du jour, en place d'aujourd'hui"));
+    cmdOwnDate->setAutoDefault(false);
+    connect(cmdOwnDate, &QPushButton::clicked, this, &frmSelDate::takeOwnDate);
+    auto *row = new QHBoxLayout;
+    row->setSpacing(theme::gap);
+    row->addWidget(lblChanged, 1);
+    row->addWidget(cmdOwnDate);
+    return row;
+}
+
+void frmSelDate::takeOwnDate() {
+    const CalendarDay day = calendarDay(changed_->day);
+    mvwDate->setSelectedDate(QDate(day.year, day.month, day.day));
+    updTirage->setValue(changed_->id);
+}
+
+std::optional<DrawDate> frmSelDate::answer() const {
+    if (tag_.isEmpty())
+        return std::nullopt;
     const QDate day = mvwDate->selectedDate();
-    return {dateOf({day.year(), day.month(), day.day()}),
-            static_cast<std::int16_t>(updTirage->value())};
+    return DrawDate{dateOf({day.year(), day.month(), day.day()}),
+                    static_cast<std::int16_t>(updTirage->value())};
 }
 
 void frmSelDate::confirm() {

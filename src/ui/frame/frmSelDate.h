@@ -7,30 +7,35 @@
 
 #include <QDialog>
 
+#include <optional>
+
 class QCalendarWidget;
 class QLabel;
+class QLayout;
 class QPushButton;
 
 namespace boulix {
 
 class UpDownView;
 
-/// The date dialog, opened on today and the first draw of the day. The only way out is its
-/// button: those who ask read the answer whatever happens.
+/// The date dialog, opened on today and the first draw of the day. Where a draw is being changed it
+/// is named, and its own date is one click away. It can be left without an answer.
 class frmSelDate : public QDialog {
     Q_OBJECT
 
   public:
-    explicit frmSelDate(QWidget *parent = nullptr);
+    explicit frmSelDate(const std::optional<DrawDate> &changed = std::nullopt,
+                        QWidget *parent = nullptr);
 
-    DrawDate answer() const;
+    /// What was confirmed; nothing while it was not.
+    std::optional<DrawDate> answer() const;
     /// The chosen date as text, once the button was clicked.
     const QString &tag() const { return tag_; }
 
-    void reject() override {}
-
   private:
     void makeCalendar();
+    QLayout *makeOwnDate();
+    void takeOwnDate();
     void giveArrow(const QString &button, const QString &icon);
     void layOut();
     void confirm();
@@ -40,6 +45,8 @@ class frmSelDate : public QDialog {
     QLabel *lblTirage;
     UpDownView *updTirage;
     QPushButton *cmdOK;
+    QPushButton *cmdCancel;
+    std::optional<DrawDate> changed_;
     QString tag_;
 };
 

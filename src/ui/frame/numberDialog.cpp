@@ -11,6 +11,7 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -18,7 +19,8 @@ namespace boulix {
 
 NumberDialog::NumberDialog(frmNbrSelector &dialog, QWidget *parent)
     : QDialog(parent), dialog_(dialog), grd(new NumberBoardView(dialog.grd, this)),
-      lblStatus(new QLabel(this)),
+      lblStatus(new QLabel(this)), lblWanted(new QLabel(this)), lblRefused(new QLabel(this)),
+      txtNumbers(new QLineEdit(this)),
       cmdOK(makeButton(QStringLiteral("cmdOK"), QStringLiteral("&Valider la sélection"))),
       cmdCancel(makeButton(QStringLiteral("cmdCancel"), QStringLiteral("&Annuler"))),
       cmdClear(makeButton(QStringLiteral("cmdClear"), QStringLiteral("Tout &Effacer"))),
@@ -28,6 +30,7 @@ NumberDialog::NumberDialog(frmNbrSelector &dialog, QWidget *parent)
     setWindowTitle(QStringLiteral("Selecteur"));
     grd->setObjectName(QStringLiteral("grd"));
     lblStatus->setObjectName(QStringLiteral("lblStatus"));
+    makeLine();
     connect(cmdOK, &QPushButton::clicked, this, [this] { dialog_.clickOK(); });
     connect(cmdCancel, &QPushButton::clicked, this, [this] { dialog_.clickCancel(); });
     connect(cmdClear, &QPushButton::clicked, this, [this] { dialog_.clickClear(); });
@@ -49,31 +52,76 @@ QPushButton *NumberDialog::makeButton(const QString &name, const QString &captio
     return button;
 }
 
-void NumberDialog::layOut() {
+/// The numbers can be typed as well as marked: line and board always hold the same ones.
+void NumberDialog::makeLine() {
+    txtNumbers->setObjectName(QStringLiteral("txtNumbers"));
+    txtNumbers->setPlaceholderText(QStringLiteral("1 8 13 17"));
+    txtNumbers->setToolTip(
+        QStringLiteral("Les numéros dans l'ordre, séparés par des espaces : 1 8 13 17"));
+    connect(txtNumbers, &QLineEdit::textEdited, this, &NumberDialog::typeNumbers);
+    connect(txtNumbers, &QLineEdit::editingFinished, this, &NumberDialog::showStatus);
+    lblWanted->setObjectName(QStringLiteral("lblWanted"));
+    lblWanted->setWordWrap(true);
+    lblRefused->setObjectName(QStringLiteral("lblRefused"));
+    lblRefused->setWordWrap(true);
+    lblRefused->setTextFormat(Qt::PlainText);
+    lblRefused->setMinimumHeight(2 * fontMetrics().height());
+    lblRefused->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+}
+
+QLayout *NumberDialog::makeSide() {
     auto *side = new QVBoxLayout;
     side->setSpacing(theme::gap);
     side->addWidget(cmdSelectAll);
     side->addWidget(cmdClear);
     side->addSpacing(theme::margin);
     side->addWidget(lblStatus);
+    side->addWidget(lblWanted);
     side->addStretch();
     side->addWidget(cmdOK);
     side->addWidget(cmdCancel);
+    return side;
+}
 
-    auto *all = new QHBoxLayout(this);
+void NumberDialog::layOut() {
+    auto *caption = new QLabel(QStringLiteral("&Numéros"), this);
+    caption->setBuddy(txtNumbers);
+    auto *line = new QHBoxLayout;
+    line->setSpacing(theme::gap);
+    line->addWidget(caption);
+    line->addWidget(txtNumbers, 1);
+    auto *above = new QHBoxLayout;
+    above->setSpacing(2 * theme::gap);
+    above->addWidget(grd, 1);
+    above->addLayout(makeSide());
+
+    auto *all = new QVBoxLayout(this);
     all->setContentsMargins(theme::margin, theme::margin, theme::margin, theme::margin);
-    all->setSpacing(2 * theme::gap);
-    all->addWidget(grd, 1);
-    all->addLayout(side);
+    all->setSpacing(theme::gap);
+    all->addLayout(above, 1);
+    all->addLayout(line);
+    all->addWidget(lblRefused);
 
-    setTabOrder(grd, cmdSelectAll);
+    setTabOrder(grd, txtNumbers);
+    setTabOrder(txtNumbers, cmdSelectAll);
     setTabOrder(cmdSelectAll, cmdClear);
     setTabOrder(cmdClear, cmdOK);
     setTabOrder(cmdOK, cmdCancel);
 }
 
+void NumberDialog::typeNumbers(const QString &text) {
+    typing_ = true;
+    dialog_.typeNumbers(fromQt(text));
+    showStatus();
+    typing_ = false;
+}
+
 void NumberDialog::showStatus() {
     lblStatus->setText(toQt(dialog_.lblStatus()));
+    lblWanted->setText(toQt(dialog_.lblWanted()));
+    lblRefused->setText(toQt(dialog_.lblRefused()));
+    if (!typing_)
+        txtNumbers->setText(toQt(dialog_.txtNumbers()));
 }
 
 void NumberDialog::hideOnceTagged() {

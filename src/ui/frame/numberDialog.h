@@ -6,6 +6,7 @@
 #include <QDialog>
 
 class QLabel;
+class QLineEdit;
 class QPushButton;
 
 namespace boulix {
@@ -26,17 +27,24 @@ class NumberDialog : public QDialog {
 
   private:
     QPushButton *makeButton(const QString &name, const QString &caption);
+    void makeLine();
+    QLayout *makeSide();
     void layOut();
+    void typeNumbers(const QString &text);
     void showStatus();
     void hideOnceTagged();
 
     frmNbrSelector &dialog_;
     NumberBoardView *grd;
     QLabel *lblStatus;
+    QLabel *lblWanted;
+    QLabel *lblRefused;
+    QLineEdit *txtNumbers;
     QPushButton *cmdOK;
     QPushButton *cmdCancel;
     QPushButton *cmdClear;
     QPushButton *cmdSelectAll;
+    bool typing_ = false; ///< the line is the source of the marks: it is not written over
 };
 
 } // namespace boulix

@@ -112,8 +112,8 @@ void QtDesktop::runNumberDialog(frmNbrSelector &dialog) {
     NumberDialog(dialog, parentForDialog()).exec();
 }
 
-DrawDate QtDesktop::runDateDialog() {
-    frmSelDate dialog(parentForDialog());
+std::optional<DrawDate> QtDesktop::runDateDialog(const std::optional<DrawDate> &changed) {
+    frmSelDate dialog(changed, parentForDialog());
     dialog.exec();
     return dialog.answer();
 }

@@ -42,7 +42,7 @@ class QtDesktop : public Desktop {
     std::string saveFile(const FileQuestion &question) override;
 
     void runNumberDialog(frmNbrSelector &dialog) override;
-    DrawDate runDateDialog() override;
+    std::optional<DrawDate> runDateDialog(const std::optional<DrawDate> &changed) override;
 
     void progressLoaded(frmProgress &progress) override;
     void progressUnloaded() override;

@@ -275,9 +275,10 @@ TEST_F(DialogsTest, TheDateDialogOpensOnTodayAndTheFirstDraw) {
         EXPECT_EQ(captionOf(dialog, "cmdOK"), "Utiliser la date définie");
         click(control<QPushButton>(dialog, "cmdOK"));
     });
-    const DrawDate answer = desktop->runDateDialog();
-    EXPECT_EQ(answer.day, platform.day);
-    EXPECT_EQ(answer.id, 1);
+    const auto answer = desktop->runDateDialog(std::nullopt);
+    ASSERT_TRUE(answer);
+    EXPECT_EQ(answer->day, platform.day);
+    EXPECT_EQ(answer->id, 1);
 }
 
 TEST_F(DialogsTest, TheDateDialogGivesTheChosenDayAndDraw) {
@@ -294,9 +295,10 @@ TEST_F(DialogsTest, TheDateDialogGivesTheChosenDayAndDraw) {
         }
         click(control<QPushButton>(dialog, "cmdOK"));
     });
-    const DrawDate answer = desktop->runDateDialog();
-    EXPECT_EQ(longDate(answer.day), "19/05/1976");
-    EXPECT_EQ(answer.id, 2);
+    const auto answer = desktop->runDateDialog(std::nullopt);
+    ASSERT_TRUE(answer);
+    EXPECT_EQ(longDate(answer->day), "19/05/1976");
+    EXPECT_EQ(answer->id, 2);
 }
 
 TEST_F(DialogsTest, TheDateDialogIsDrivenByItsKeys) {
@@ -312,20 +314,80 @@ TEST_F(DialogsTest, TheDateDialogIsDrivenByItsKeys) {
         alt(dialog, Qt::Key_U);
         EXPECT_FALSE(dialog.isVisible());
     });
-    const DrawDate answer = desktop->runDateDialog();
-    EXPECT_EQ(longDate(answer.day), "09/11/2026");
-    EXPECT_EQ(answer.id, 1);
+    const auto answer = desktop->runDateDialog(std::nullopt);
+    ASSERT_TRUE(answer);
+    EXPECT_EQ(longDate(answer->day), "09/11/2026");
+    EXPECT_EQ(answer->id, 1);
 }
 
-TEST_F(DialogsTest, TheDateDialogIsLeftByItsButtonOnly) {
+TEST_F(DialogsTest, TheDateDialogIsLeftWithoutAnAnswerByEscapeByItsButtonAndByItsCloseBox) {
+    const std::vector<std::function<void(QWidget &)>> ways = {
+        [](QWidget &dialog) { click(control<QPushButton>(dialog, "cmdCancel")); },
+        [](QWidget &) { press(Qt::Key_Escape); },
+        [](QWidget &dialog) { dialog.close(); },
+    };
+    for (const auto &way : ways) {
+        robot.in("frmSelDate", [&](QWidget &dialog) {
+            control<QCalendarWidget>(dialog, "mvwDate").setSelectedDate(QDate(1976, 5, 19));
+            way(dialog);
+        });
+        EXPECT_FALSE(desktop->runDateDialog(std::nullopt));
+    }
+}
+
+TEST_F(DialogsTest, TheDateDialogNamesTheDrawThatIsChangedAndGivesItsDateBackAtOneClick) {
     robot.in("frmSelDate", [](QWidget &dialog) {
-        press(Qt::Key_Escape);
-        dialog.close();
-        EXPECT_TRUE(dialog.isVisible());
-        EXPECT_FALSE(dialog.windowFlags().testFlag(Qt::WindowCloseButtonHint));
+        EXPECT_EQ(control<QLabel>(dialog, "lblChanged").text().toStdString(),
+                  "Tirage à modifier : n° 2 du 19-05-1976");
+        EXPECT_EQ(control<QCalendarWidget>(dialog, "mvwDate").selectedDate(), QDate(2026, 11, 15));
+        click(control<QPushButton>(dialog, "cmdOwnDate"));
+        EXPECT_EQ(control<QLabel>(dialog, "lblTirage").text().toStdString(), "2");
         click(control<QPushButton>(dialog, "cmdOK"));
     });
-    desktop->runDateDialog();
+    const auto answer = desktop->runDateDialog(DrawDate{dateOf({1976, 5, 19}), 2});
+    ASSERT_TRUE(answer);
+    EXPECT_EQ(longDate(answer->day), "19/05/1976");
+    EXPECT_EQ(answer->id, 2);
+}
+
+TEST_F(DialogsTest, ADrawWithoutAValidDateHasNoneToOffer) {
+    robot.in("frmSelDate", [](QWidget &dialog) {
+        EXPECT_EQ(dialog.findChild<QLabel *>(QStringLiteral("lblChanged")), nullptr);
+        click(control<QPushButton>(dialog, "cmdOK"));
+    });
+    EXPECT_TRUE(desktop->runDateDialog(DrawDate{1e9, 1}));
+}
+
+TEST_F(DialogsTest, NumbersAreTypedInALineThatHoldsWhatTheBoardShows) {
+    robot.in("frmNbrSelector", [](QWidget &dialog) {
+        auto &line = control<QLineEdit>(dialog, "txtNumbers");
+        const auto told = [&](const char *label) {
+            return control<QLabel>(dialog, label).text().toStdString();
+        };
+        EXPECT_EQ(line.text().toStdString(), "31 8");
+        EXPECT_EQ(told("lblWanted"), "7 numéros à cocher, encore 5.");
+        mark(dialog, {17});
+        EXPECT_EQ(line.text().toStdString(), "31 8 17");
+        line.setFocus();
+        line.selectAll();
+        QTest::keyClicks(&line, QStringLiteral("1 8 13 17 22 50 "));
+        EXPECT_EQ(status(dialog), "5 numéros");
+        EXPECT_EQ(told("lblRefused"), "« 50 » n'est pas un numéro de 1 à 49.");
+        EXPECT_EQ(line.text().toStdString(), "1 8 13 17 22 50 ") << "not while it is typed";
+        QTest::keyClicks(&line, QStringLiteral("30 9"));
+        EXPECT_EQ(told("lblWanted"), "7 numéros à cocher.");
+        mark(dialog, {49});
+        EXPECT_EQ(told("lblRefused"),
+                  "Le 49 n'est pas coché : 7 numéros au plus. Décochez-en un d'abord.");
+        EXPECT_EQ(line.text().toStdString(), "1 8 13 17 22 30 9");
+        line.setFocus();
+        QTest::keyClick(&line, Qt::Key_Return);
+    });
+    selector chosen;
+    chosen.setSelect(7, 7);
+    chosen.setPrevSelect(2, {31, 8});
+    chosen.selectNbr();
+    EXPECT_EQ(numbersOf(chosen), (Numbers{1, 8, 13, 17, 22, 30, 9}));
 }
 
 TEST(FileDialogs, FiltersAreUnderstoodAsThePlatformsWere) {

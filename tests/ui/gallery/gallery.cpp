@@ -35,6 +35,7 @@
 #include "workbench/frmMain.h"
 
 #include <QDir>
+#include <QLineEdit>
 #include <QPixmap>
 
 #include <initializer_list>
@@ -94,11 +95,20 @@ void keepBoards() {
 
 void keepDialogs() {
     frmNbrSelector selector;
-    mark(selector.grd, {3, 9, 17, 28, 40}, 0);
+    selector.grd.maxSelected(7);
+    selector.grd.complementaryAt(7);
+    selector.minimum = 7;
+    selector.lastIsComplementary = true;
+    mark(selector.grd, {3, 9, 17, 28, 40, 12}, 0);
     NumberDialog numbers(selector);
     keep(numbers, QStringLiteral("frmNbrSelector"));
+    selector.grd.click(49);
+    selector.grd.click(1);
+    keep(numbers, QStringLiteral("frmNbrSelector-full"));
     frmSelDate date;
     keep(date, QStringLiteral("frmSelDate"));
+    frmSelDate changed(DrawDate{dateOf({2003, 3, 15}), 2});
+    keep(changed, QStringLiteral("frmSelDate-changed"));
 
     frmProgress progress;
     progress.caption = "Importation des tirages...";
@@ -156,6 +166,8 @@ void keepMainWindow() {
     mainWindow->load();
     MainWindow window(*mainWindow, mainParts());
     keep(window, QStringLiteral("frmMain"));
+    window.findChild<QLineEdit *>(QStringLiteral("txtFind"))->setText(QStringLiteral("7 13"));
+    keep(window, QStringLiteral("frmMain-search"));
     window.resize(window.minimumSizeHint());
     keep(window, QStringLiteral("frmMain-smallest"));
 }
