@@ -14,6 +14,8 @@ struct EmptyPlace {
     std::string sentence;
     std::string link = {};             ///< the words to click; empty: no link
     std::function<void()> follow = {}; ///< what the link does
+    std::string otherLink = {};        ///< a second one under it; empty: none
+    std::function<void()> followOther = {};
 };
 
 } // namespace boulix

@@ -20,6 +20,10 @@ void reportList::rows(std::int64_t count, Cell cell) {
     sortColumn_ = -1;
     descending_ = false;
     order_.clear();
+    marked_ = {};
+    pointed_ = -1;
+    bars_.reset();
+    outdated_ = false;
     notify();
 }
 
@@ -66,6 +70,47 @@ std::string reportList::text(std::int64_t row, int column) const {
 
 std::int64_t reportList::sourceRow(std::int64_t row) const {
     return order_.empty() ? row : order_[static_cast<std::size_t>(row)];
+}
+
+void reportList::marks(std::function<bool(std::int64_t row)> marked) {
+    marked_ = std::move(marked);
+    notifyLook();
+}
+
+bool reportList::isMarked(std::int64_t row) const {
+    return marked_ && marked_(sourceRow(row));
+}
+
+void reportList::pointTo(std::int64_t row) {
+    pointed_ = row;
+    notifyLook();
+}
+
+bool reportList::isPointedAt(std::int64_t row) const {
+    return pointed_ >= 0 && sourceRow(row) == pointed_;
+}
+
+void reportList::bars(ReportBars bars) {
+    bars_ = std::move(bars);
+    notify(); // the texts of the column give way
+}
+
+double reportList::barOf(std::int64_t row) const {
+    if (!bars_ || bars_->largest <= 0)
+        return 0;
+    return std::clamp(bars_->value(sourceRow(row)) / bars_->largest, 0.0, 1.0);
+}
+
+void reportList::outdated(bool outdated) {
+    if (outdated == outdated_)
+        return;
+    outdated_ = outdated;
+    notifyLook();
+}
+
+void reportList::notifyLook() const {
+    if (lookChanged)
+        lookChanged();
 }
 
 void reportList::notify() const {

@@ -120,5 +120,28 @@ TEST_F(ReportList, SortsNothingWithoutRows) {
     EXPECT_EQ(list.rowCount(), 0);
 }
 
+TEST_F(ReportList, MarksPointerBarsAndAgeBelongToTheRowsThereAreAndFollowTheirOrder) {
+    list.rows(3, [](std::int64_t row, int) { return std::to_string(9 - row); });
+    list.marks([](std::int64_t row) { return row == 0; });
+    list.pointTo(1);
+    list.bars({0, [](std::int64_t row) { return 5.0 * static_cast<double>(row) - 1; }, 8, 4});
+    list.outdated(true);
+    list.sortByText(0); // turned round
+    EXPECT_TRUE(list.isMarked(2));
+    EXPECT_FALSE(list.isMarked(0));
+    EXPECT_TRUE(list.isPointedAt(1));
+    EXPECT_FALSE(list.isPointedAt(0));
+    EXPECT_EQ(list.barOf(0), 1) << "beyond the largest";
+    EXPECT_EQ(list.barOf(1), 0.5);
+    EXPECT_EQ(list.barOf(2), 0) << "below zero";
+    list.rows(3, [](std::int64_t, int) { return std::string("1"); });
+    for (std::int64_t row = 0; row < 3; ++row) {
+        EXPECT_FALSE(list.isMarked(row));
+        EXPECT_FALSE(list.isPointedAt(row));
+        EXPECT_EQ(list.barOf(row), 0);
+    }
+    EXPECT_FALSE(list.outdated());
+}
+
 } // namespace
 } // namespace boulix

@@ -10,6 +10,15 @@
 
 namespace boulix {
 
+namespace {
+
+QString linkTo(const char *target, const std::string &words) {
+    return QStringLiteral("<br><a href=\"%1\">%2</a>")
+        .arg(QString::fromLatin1(target), toQt(words).toHtmlEscaped());
+}
+
+} // namespace
+
 EmptyPlaceView::EmptyPlaceView(QWidget *ground) : QLabel(ground) {
     setObjectName(QStringLiteral("emptyPlace"));
     setAlignment(Qt::AlignCenter);
@@ -21,7 +30,9 @@ EmptyPlaceView::EmptyPlaceView(QWidget *ground) : QLabel(ground) {
 void EmptyPlaceView::tell(const EmptyPlace &place) {
     QString text = toQt(place.sentence).toHtmlEscaped();
     if (!place.link.empty())
-        text += QStringLiteral("<br><a href=\"#\">%1</a>").arg(toQt(place.link).toHtmlEscaped());
+        text += linkTo("#", place.link);
+    if (!place.otherLink.empty())
+        text += linkTo("#other", place.otherLink);
     setText(text);
     setTextInteractionFlags(place.link.empty()
                                 ? Qt::NoTextInteraction
@@ -29,7 +40,10 @@ void EmptyPlaceView::tell(const EmptyPlace &place) {
     setAttribute(Qt::WA_TransparentForMouseEvents, place.link.empty());
     disconnect(this, &QLabel::linkActivated, nullptr, nullptr);
     connect(this, &QLabel::linkActivated, this,
-            [follow = place.follow] { runCommand([&follow] { follow(); }); });
+            [one = place.follow, other = place.followOther](const QString &link) {
+                const auto follow = link == QLatin1String("#other") ? other : one;
+                runCommand([&follow] { follow(); });
+            });
     setVisible(!place.sentence.empty());
     cover();
 }

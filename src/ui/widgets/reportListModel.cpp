@@ -92,7 +92,8 @@ void ReportListModel::takeSizes() {
 }
 
 QVariant ReportListModel::alignmentOf(int column) const {
-    const bool centred = list_.columns()[static_cast<std::size_t>(column)].centred;
+    const bool barred = list_.bars() && list_.bars()->column == column; // they begin at its left
+    const bool centred = !barred && list_.columns()[static_cast<std::size_t>(column)].centred;
     return int((centred ? Qt::AlignHCenter : Qt::AlignLeft) | Qt::AlignVCenter);
 }
 

@@ -30,7 +30,7 @@ constexpr int rowPadding = 7; // above and below it, together
 } // namespace
 
 ReportView::ReportView(reportList &list, QWidget *parent)
-    : QAbstractItemView(parent), model_(std::make_unique<ReportListModel>(list)),
+    : QAbstractItemView(parent), list_(list), model_(std::make_unique<ReportListModel>(list)),
       header_(new QHeaderView(Qt::Horizontal, this)), empty_(new EmptyPlaceView(viewport())) {
     setSelectionBehavior(SelectRows);
     setSelectionMode(SingleSelection);
@@ -43,9 +43,11 @@ ReportView::ReportView(reportList &list, QWidget *parent)
     makeCopyActions();
     header_->setModel(model_.get()); // before the view: it learns of new columns first
     setModel(model_.get());
+    list_.lookChanged = [this] { viewport()->update(); };
 }
 
 ReportView::~ReportView() {
+    list_.lookChanged = nullptr;
     setModel(nullptr);
     header_->setModel(nullptr);
 }
@@ -96,6 +98,13 @@ std::vector<std::int64_t> ReportView::selectedRows() const {
             rows.push_back(row + 1);
     std::sort(rows.begin(), rows.end());
     return rows;
+}
+
+void ReportView::goToRow(std::int64_t row, bool select) {
+    const QModelIndex index = model_->index(static_cast<int>(row - 1), 0);
+    if (select)
+        setCurrentIndex(index);
+    scrollTo(index);
 }
 
 void ReportView::keepAllColumnsVisible() {

@@ -34,6 +34,8 @@ class ReportView : public QAbstractItemView {
     void setChecks(RowChecks checks);
     /// The selected rows, counted from 1 at the top of the list as it is shown, ascending.
     std::vector<std::int64_t> selectedRows() const;
+    /// Scrolls to the row, counted from 1; with `select` it becomes the selected one.
+    void goToRow(std::int64_t row, bool select);
     /// Never becomes so narrow that a column is cut off, whatever font and style come.
     void keepAllColumnsVisible();
     /// The width at which all columns and the scroll bar have their room.
@@ -43,7 +45,7 @@ class ReportView : public QAbstractItemView {
     QRect visualRect(const QModelIndex &index) const override;
     QModelIndex indexAt(const QPoint &point) const override;
     void scrollTo(const QModelIndex &index, ScrollHint hint = EnsureVisible) override;
-    void keyboardSearch(const QString &) override {}
+    void keyboardSearch(const QString &text) override { emit typed(text); }
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
@@ -53,6 +55,8 @@ class ReportView : public QAbstractItemView {
     void rowClicked(qint64 row);
     /// The user has clicked in the list, or pressed Space or Return: the selected rows are meant.
     void rowsPicked();
+    /// The user has typed letters or digits while the list had the focus.
+    void typed(const QString &text);
     /// The user has clicked the header of a column, counted from 0.
     void headerClicked(int column);
 
@@ -84,6 +88,9 @@ class ReportView : public QAbstractItemView {
     void showSorting();
     void showEmptyPlace();
     void paintRow(QPainter &painter, int row);
+    void paintGround(QPainter &painter, const QStyleOptionViewItem &option, int row) const;
+    void paintBar(QPainter &painter, const QStyleOptionViewItem &option, int row) const;
+    QColor textColor(const QStyleOptionViewItem &option) const;
     void paintText(QPainter &painter, const QStyleOptionViewItem &option,
                    const QModelIndex &index) const;
     void toggleCheck(const QModelIndex &index);
@@ -94,6 +101,7 @@ class ReportView : public QAbstractItemView {
     void copySelected() const;
     void copyAll() const;
 
+    reportList &list_;
     std::unique_ptr<ReportListModel> model_;
     QHeaderView *header_;
     EmptyPlaceView *empty_;

@@ -42,6 +42,10 @@ void UpDownField::refresh(const QString &text) {
     arrows_->setRange(control_.min(), control_.max());
     arrows_->setValue(control_.value());
     setEnabled(control_.enabled);
+    box_->setToolTip(
+        control_.enabled
+            ? QStringLiteral("Un nombre entier de %1 à %2").arg(control_.min()).arg(control_.max())
+            : QString());
     if (!box_->isModified()) // what is being typed is not written over
         box_->setText(text);
 }

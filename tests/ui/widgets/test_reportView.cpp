@@ -11,6 +11,7 @@
 #include <QClipboard>
 #include <QElapsedTimer>
 #include <QHeaderView>
+#include <QImage>
 #include <QLabel>
 #include <QScrollBar>
 #include <QSignalSpy>
@@ -18,6 +19,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 
 namespace boulix {
@@ -400,6 +402,65 @@ TEST_F(ReportViewTest, FourteenMillionRowsAppearAtOnceAndAskOnlyForWhatIsSeen) {
     EXPECT_TRUE(view->rect().contains(middleOf(int{allGrids} - 1)));
     EXPECT_LT(asked, 200);
     EXPECT_LT(clock.elapsed(), 500);
+}
+
+/// The colours along a row of the list as it is painted.
+std::vector<QRgb> inkOfRow(ReportView &view, int row, int from) {
+    const QImage picture = view.viewport()->grab().toImage();
+    const int y = view.visualRect(view.model()->index(row, 0)).center().y();
+    std::vector<QRgb> ink;
+    for (int x = from; x < picture.width() / picture.devicePixelRatio(); ++x)
+        ink.push_back(picture.pixel(x, y));
+    return ink;
+}
+
+TEST_F(ReportViewTest, BarsAreAsLongAsTheirValuesAndTheMeanStandsInEachRow) {
+    list.columns({{"N", " 000 ", true}, {"Fréquence", "", true}});
+    list.rows(4, cell);
+    const std::array<double, 4> values = {0, 25, 50, 100};
+    list.bars(
+        {1, [&](std::int64_t row) { return values[static_cast<std::size_t>(row)]; }, 100, 40});
+    view = std::make_unique<ReportView>(list);
+    view->resize(500, 200);
+    view->show();
+    const int from = view->visualRect(view->model()->index(0, 1)).left() +
+                     view->fontMetrics().horizontalAdvance(QStringLiteral("000000")) + 12;
+    std::vector<int> lengths;
+    for (int row = 0; row < 4; ++row) {
+        const std::vector<QRgb> ink = inkOfRow(*view, row, from);
+        const QRgb ground = ink.back(); // no bar reaches the edge
+        lengths.push_back(static_cast<int>(
+            std::count_if(ink.begin(), ink.end(), [&](QRgb c) { return c != ground; })));
+    }
+    EXPECT_LE(lengths[0], 2) << "the mean alone";
+    EXPECT_NEAR(lengths[1], lengths[3] / 4.0, 3);
+    EXPECT_NEAR(lengths[2], lengths[3] / 2.0, 3);
+    EXPECT_GT(lengths[3], 150);
+    EXPECT_EQ(view->model()->index(0, 1).data(Qt::TextAlignmentRole).toInt(),
+              int(Qt::AlignLeft | Qt::AlignVCenter))
+        << "the bars begin behind the numbers";
+}
+
+TEST_F(ReportViewTest, MarkedRowsAndTheOneShownBesideTheListStandOutWithoutBeingSelected) {
+    show();
+    const auto edgeAndGround = [this](int row) {
+        const std::vector<QRgb> ink = inkOfRow(*view, row, 0);
+        return std::pair{ink[1], ink.back()};
+    };
+    const std::vector plain = {edgeAndGround(0), edgeAndGround(1), edgeAndGround(2)};
+    const QSignalSpy resets(view->model(), &QAbstractItemModel::modelReset);
+    clickRow(4);
+    list.marks([](std::int64_t row) { return row == 2; });
+    list.pointTo(0);
+    EXPECT_EQ(edgeAndGround(1), plain[1]);
+    EXPECT_NE(edgeAndGround(2).second, plain[2].second);
+    EXPECT_NE(edgeAndGround(0).first, plain[0].first);
+    EXPECT_EQ(edgeAndGround(0).second, plain[0].second);
+    EXPECT_EQ(resets.count(), 0);
+    EXPECT_EQ(view->selectedRows(), Rows{5}) << "the selection stays";
+    list.rows(10, cell);
+    EXPECT_EQ(edgeAndGround(0), plain[0]);
+    EXPECT_EQ(edgeAndGround(2), plain[2]);
 }
 
 } // namespace
