@@ -6,6 +6,7 @@
 #include "core/failure.h"
 #include "core/numbers.h"
 #include "core/text.h"
+#include "sill/typedField.h"
 #include "stats/graphSettings.h"
 
 #include <algorithm>
@@ -32,6 +33,15 @@ float &setting(frmGraph::Limit limit) {
         break;
     }
     return modStats::graphYMax;
+}
+
+/// The text box of a limit.
+TypedField fieldOf(frmGraph::Limit limit) {
+    constexpr std::array<const char *, frmGraph::limitCount> names = {"txtXMin", "txtXMax",
+                                                                      "txtYMin", "txtYMax"};
+    constexpr std::array<const char *, frmGraph::limitCount> captions = {"X min", "X max", "Y min",
+                                                                         "Y max"};
+    return {names[limit], captions[limit], "un nombre d'au plus 38 chiffres"};
 }
 
 /// The number at the start of `text`; the comma of a French keyboard counts as the dot.
@@ -102,10 +112,12 @@ void frmGraph::chooseRange(bool automatic) {
 void frmGraph::leaveLimit(Limit limit, const std::string &text) {
     if (trimmed(text).empty())
         return;
-    const float number = limitFrom(text);
+    const float number = readField(fieldOf(limit), text, limitFrom);
     setting(limit) = number;
-    txtLimit[limit] = text;
+    txtLimit[limit] = number == 0 ? "0" : text; // what was no number does not seem to be one
     sendLimit(limit);
+    if (changed)
+        changed();
 }
 
 /// The limits of the manual range are those to be seen: a box that is left again must not bring

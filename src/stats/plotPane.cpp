@@ -44,6 +44,7 @@ void PlotPane::titles(const std::string &x, const std::string &y) {
 
 void PlotPane::clearCurves() {
     curves_.clear();
+    expected_.reset();
     notify();
 }
 

@@ -7,6 +7,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -68,6 +69,10 @@ class PlotPane {
     const std::string &yTitle() const { return yTitle_; }
     void titles(const std::string &x, const std::string &y);
 
+    /// The ordinate that chance lets expect, drawn across all curves; it goes with them.
+    const std::optional<double> &expected() const { return expected_; }
+    void expected(std::optional<double> y) { change(expected_, y); }
+
     void clearCurves();
     void addCurve(std::vector<double> x, std::vector<double> y);
     const std::vector<PlotCurve> &curves() const { return curves_; }
@@ -87,6 +92,7 @@ class PlotPane {
     void notify() const;
 
     std::vector<PlotCurve> curves_;
+    std::optional<double> expected_;
     std::string xTitle_;
     std::string yTitle_;
     PlotRange range_;

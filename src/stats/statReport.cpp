@@ -11,6 +11,7 @@
 #include "files/modFileSelector.h"
 #include "printing/modPrinter.h"
 #include "sill/appInfo.h"
+#include "sill/desktop.h"
 #include "sill/selector.h"
 #include "stats/modStats.h"
 #include "stats/statStores.h"
@@ -132,8 +133,11 @@ void ExportStats(std::int16_t type, std::int16_t withCompl, std::int32_t first, 
     const std::string name =
         modFileSelector::saveDialog("Fichier Statistiques texte Boulix (*.txt)|*.txt",
                                     "Exportation des statistiques au format texte");
-    if (!name.empty())
-        WriteStatsText(name, type, withCompl, first, last, chooser);
+    if (name.empty())
+        return;
+    WriteStatsText(name, type, withCompl, first, last, chooser);
+    desktop().announce("Statistique exportée dans " + name.substr(name.find_last_of("/\\") + 1) +
+                       ".");
 }
 
 void WriteStatsText(const std::string &name, std::int16_t type, std::int16_t withCompl,
@@ -155,6 +159,7 @@ void PrintStats(std::int16_t type, std::int16_t withCompl, std::int32_t first, s
          reportLines(type, withCompl, first, last, chooser, Medium::paper, {printed}))
         report->line(line);
     report->end();
+    desktop().announce("Statistique imprimée.");
 }
 
 } // namespace boulix::modStats

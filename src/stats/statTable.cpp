@@ -141,10 +141,12 @@ std::int64_t StatTable::rowCount() const {
     return columns.empty() ? 0 : static_cast<std::int64_t>(cells.size() / columns.size());
 }
 
+std::int32_t StatTable::value(std::int64_t row, int column) const {
+    return cells[static_cast<std::size_t>(row) * columns.size() + static_cast<std::size_t>(column)];
+}
+
 std::string StatTable::text(std::int64_t row, int column) const {
-    const auto at =
-        static_cast<std::size_t>(row) * columns.size() + static_cast<std::size_t>(column);
-    return zeroPadded(cells[at], digits[static_cast<std::size_t>(column)]);
+    return zeroPadded(value(row, column), digits[static_cast<std::size_t>(column)]);
 }
 
 Best bestOf(std::int16_t type) {

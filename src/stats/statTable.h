@@ -23,6 +23,7 @@ struct StatTable {
     std::vector<std::int32_t> cells; ///< row by row
 
     std::int64_t rowCount() const;
+    std::int32_t value(std::int64_t row, int column) const;
     std::string text(std::int64_t row, int column) const;
 };
 

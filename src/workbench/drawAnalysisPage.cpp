@@ -46,6 +46,8 @@ void drawAnalysisPage::init() {
 void drawAnalysisPage::followBase() {
     const std::int32_t count = gDbCombs->Count();
     updnTirNbr.enabled = count > 0;
+    lvwTirStat.whenEmpty({count > 0 ? "Choisissez une ou plusieurs analyses dans la liste."
+                                    : "La base est vide : importez d'abord des tirages."});
     if (count == 0)
         return;
     updnTirNbr.range(1, count);

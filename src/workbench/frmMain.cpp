@@ -48,6 +48,7 @@ frmMain::frmMain()
     games.design.markedInStatistics = [this] {
         return markedNumbers(statistics.grdStatNbrSelector);
     };
+    statistics.numbersToPlay = [this] { playNumbers(); };
     games.design.tickedInForecasts = [this] { return forecasts.tickedNumbers(); };
     games.gameShown = [this] { winnings.showVerification(); };
 }
@@ -138,6 +139,13 @@ void frmMain::redo() {
     const std::string name = gUndo->redoName();
     if (!name.empty() && runCommand([] { gUndo->redo(); }))
         desktop().announce("Rétabli : " + name);
+}
+
+/// The numbers marked in the statistics are what the next selection of a game begins with.
+void frmMain::playNumbers() {
+    constexpr int gameTab = 5;
+    games.playFrom(gameDesign::statisticNumbers);
+    clickTab(gameTab);
 }
 
 void frmMain::showHelp() {

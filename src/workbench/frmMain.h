@@ -80,6 +80,7 @@ class frmMain : public windowFrame {
     void fillDBList();
     std::string unsavedGame() const;
     bool mayLeaveBase();
+    void playNumbers();
     void refresh() const;
 
     frmMainView *view_ = nullptr;

@@ -182,6 +182,15 @@ std::string gamePage::whyOff(int button) const {
     return {};
 }
 
+void gamePage::playFrom(gameDesign::Source source) {
+    design.chkSelect[source] = true;
+    design.clickTab(gameDesign::selectorsTab);
+    if (!view_)
+        return;
+    view_->showSide(static_cast<int>(TabGame.size()) - 1);
+    view_->refresh();
+}
+
 void gamePage::clickButton(int index) {
     if (!runCommand([&] { runButton(index); }))
         runCommand([this] { refill(); });

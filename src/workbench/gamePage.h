@@ -26,6 +26,8 @@ class gameView : public gameDesignView {
     /// The selected rows of `lvwGame`, counted from 1, ascending.
     virtual std::vector<std::int64_t> selectedRows() const = 0;
     virtual bool anyRowSelected() const = 0;
+    /// Shows the sub-tab at `index`, from 0.
+    virtual void showSide(int index) = 0;
 };
 
 /// The page on which a game is composed. This half is the left side, the game of the user with
@@ -73,6 +75,8 @@ class gamePage {
     /// The price or its unit has changed.
     void showPrice() const { refresh(); }
 
+    /// The next selection is to begin with the numbers of `source`: its box is ticked, and shown.
+    void playFrom(gameDesign::Source source);
     /// A click on a button of `tbarGame`. A failure ends the command and is shown, and the list
     /// then shows what the game holds.
     void clickButton(int index);

@@ -10,6 +10,7 @@
 #include "draws/dbCombs.h"
 #include "sill/reports.h"
 #include "stats/modStats.h"
+#include "stats/statMeasure.h"
 #include "stats/statReport.h"
 #include "stats/statStores.h"
 #include "stats/statTable.h"
@@ -90,6 +91,8 @@ void statisticsPage::init() {
 }
 
 void statisticsPage::followBase() {
+    ++baseChanges_;
+    sayWhenEmpty();
     const std::int32_t count = gDbCombs->Count();
     updStatStart.enabled = count > 0;
     updStatEnd.enabled = count > 0;
@@ -115,6 +118,7 @@ void statisticsPage::pickType(std::int16_t type) {
     graphButtonEnabled = hasGraph(type_);
     if (type_ != 17) // this one leaves the box as the type before it did
         frameStatsRangeEnabled = type_ != 7 && type_ != 8;
+    followChoice();
     refresh();
 }
 
@@ -134,6 +138,7 @@ void statisticsPage::runButton(int index, bool down) {
     case withComplementary:
         withCompl_ = down ? 1 : 0;
         showLabels();
+        followChoice();
         break;
     case exportResult:
         modStats::ExportStats(type_, withCompl_, updStatStart.value(), updStatEnd.value(),
@@ -147,6 +152,10 @@ void statisticsPage::runButton(int index, bool down) {
         grdStatNbrSelector.clearSelection();
         ShowSelectedCount();
         break;
+    case playNumbers:
+        if (canPlay() && numbersToPlay)
+            numbersToPlay();
+        break;
     default:
         break;
     }
@@ -154,6 +163,8 @@ void statisticsPage::runButton(int index, bool down) {
 
 void statisticsPage::compute() {
     modStats::ComputeStat(type_, withCompl_, updStatStart.value(), updStatEnd.value(), selector_);
+    computed_ = choice();
+    sayWhenEmpty();
     ShowStatResult();
     if (graphButton_ == 1 && graphButtonEnabled)
         ShowStatGraph();
@@ -237,12 +248,50 @@ void statisticsPage::ShowStatResult() {
     const auto table =
         std::make_shared<const modStats::StatTable>(modStats::statTable(type_, selector_));
     lvwStatsResult.columns(table->columns);
+    measureNote_.clear();
     if (table->columns.empty())
-        return;
+        return followChoice();
     lvwStatsResult.rows(table->rowCount(),
                         [table](std::int64_t row, int column) { return table->text(row, column); });
+    measure(table);
+    followChoice();
     lblStatsStatus = modStats::statSummary(type_, selector_);
     refresh();
+}
+
+/// Bars for the values of the list, with their mean.
+void statisticsPage::measure(const std::shared_ptr<const modStats::StatTable> &table) {
+    const std::optional<modStats::StatMeasure> measured = modStats::statMeasure(type_, *table);
+    if (!measured)
+        return;
+    const int column = measured->column;
+    lvwStatsResult.bars({column,
+                         [table, column](std::int64_t row) { return table->value(row, column); },
+                         static_cast<double>(measured->largest), measured->mean});
+    measureNote_ = "Moyenne de la liste : " + modStats::measureText(measured->mean) +
+                   " (le trait dans chaque ligne)";
+}
+
+statisticsPage::Choice statisticsPage::choice() const {
+    return {type_, withCompl_, updStatStart.value(), updStatEnd.value(), baseChanges_};
+}
+
+/// The labels can speak of another type, stretch or base than the list, which then looks outdated.
+void statisticsPage::followChoice() {
+    const bool outdated = computed_.type != 0 && choice() != computed_;
+    lvwStatsResult.outdated(outdated);
+    lblStatsNote = outdated ? "Ce résultat est celui d'avant : cliquez sur « Type » pour calculer."
+                            : measureNote_;
+}
+
+void statisticsPage::sayWhenEmpty() {
+    if (gDbCombs->Count() == 0)
+        lvwStatsResult.whenEmpty({"La base est vide : importez d'abord des tirages."});
+    else if (computed_.type == 0)
+        lvwStatsResult.whenEmpty({"Choisissez un type de statistique, puis cliquez sur « Type ».",
+                                  "Calculer", [this] { clickButton(computeType); }});
+    else
+        lvwStatsResult.whenEmpty({"Ce calcul n'a pas de résultat."});
 }
 
 void statisticsPage::ShowStatGraph() {
@@ -260,6 +309,9 @@ void statisticsPage::ShowStatGraph() {
     for (std::size_t i = 1; i <= y.size(); ++i)
         x.push_back(static_cast<double>(i));
     nameAxes();
+    if (computed_.type == type_)
+        graph_->plot.expected(modStats::expectedFrequency(
+            type_, computed_.withCompl, std::int64_t{computed_.last} - computed_.first + 1));
     graph_->plot.addCurve(std::move(x), std::move(y));
 }
 
@@ -278,6 +330,7 @@ void statisticsPage::ShowSelectedCount() {
     const std::int16_t count = grdStatNbrSelector.selectedCount();
     window_.showSelectedCount(std::to_string(count) +
                               (count > 1 ? " numéros sélectionés" : " numéro sélectioné"));
+    refresh(); // whether there are numbers to play
 }
 
 void statisticsPage::showLabels() {
@@ -288,6 +341,7 @@ void statisticsPage::showLabels() {
 void statisticsPage::showRangeDates() {
     txtStatStart = std::to_string(updStatStart.value());
     txtStatEnd = std::to_string(updStatEnd.value());
+    followChoice();
     const std::int32_t count = gDbCombs->Count();
     const auto isDraw = [count](std::int32_t n) { return n >= 1 && n <= count; };
     if (isDraw(updStatStart.value()) && isDraw(updStatEnd.value())) {

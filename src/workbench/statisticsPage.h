@@ -11,6 +11,7 @@
 #include "stats/graphSettings.h"
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -18,6 +19,9 @@
 namespace boulix {
 
 class windowFrame;
+namespace modStats {
+struct StatTable;
+}
 
 /// What the statistics page asks of its screen.
 class statisticsView {
@@ -39,7 +43,15 @@ class statisticsView {
 class statisticsPage {
   public:
     /// The buttons of `tbarStats`.
-    enum Button { computeType = 1, showGraph, withComplementary, exportResult, printResult, erase };
+    enum Button {
+        computeType = 1,
+        showGraph,
+        withComplementary,
+        exportResult,
+        printResult,
+        erase,
+        playNumbers
+    };
 
     explicit statisticsPage(windowFrame &window);
     statisticsPage(const statisticsPage &) = delete;
@@ -48,6 +60,8 @@ class statisticsPage {
     std::string lblStatType;
     std::string lblStatDesc;
     std::string lblStatsStatus;
+    /// A quiet line under the sentence: what the mean is, or that the list is of an earlier choice.
+    std::string lblStatsNote;
     reportList lvwStatsResult;
     /// The user's own selection of numbers; no computation reads it.
     NumberBoard grdStatNbrSelector;
@@ -60,6 +74,9 @@ class statisticsPage {
     bool frameStatsRangeEnabled = true;
     bool graphButtonEnabled = true;
 
+    /// The numbers of the board are to be played: called by the button `playNumbers`.
+    std::function<void()> numbersToPlay;
+
     void view(statisticsView *view) { view_ = view; }
     /// The defaults: type 1, graph up, without complementary, the whole base as range.
     void init();
@@ -71,6 +88,8 @@ class statisticsPage {
     std::int16_t graphButton() const { return graphButton_; }
     /// 0 without, 1 with.
     std::int16_t complementaryChoice() const { return withCompl_; }
+    /// Whether there are numbers on the board that can be played.
+    bool canPlay() const { return grdStatNbrSelector.selectedCount() > 0; }
     /// The text of entry `type` of the menu of types.
     static std::string menuText(std::int16_t type);
 
@@ -94,7 +113,21 @@ class statisticsPage {
     void ShowSelectedCount();
 
   private:
+    /// What a result depends on.
+    struct Choice {
+        std::int16_t type = 0;
+        std::int16_t withCompl = 0;
+        std::int32_t first = 0;
+        std::int32_t last = 0;
+        int base = 0; ///< how often it had changed
+        bool operator==(const Choice &) const = default;
+    };
+
     void runButton(int index, bool down);
+    Choice choice() const;
+    void measure(const std::shared_ptr<const modStats::StatTable> &table);
+    void followChoice();
+    void sayWhenEmpty();
     void compute();
     void setGraphButton(bool down);
     void closeGraph();
@@ -108,6 +141,9 @@ class statisticsPage {
     windowFrame &window_;
     statisticsView *view_ = nullptr;
     selector selector_;
+    int baseChanges_ = 0;
+    Choice computed_;                 // what the list shows
+    std::string measureNote_;         // of what the list shows
     std::unique_ptr<frmGraph> graph_; // while the graph window is open
     std::int16_t type_ = 1;
     std::int16_t graphButton_ = 0;

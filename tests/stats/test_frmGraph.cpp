@@ -252,6 +252,27 @@ TEST_F(Graph, ALimitBeyondSinglePrecisionIsAFailureAndChangesNothing) {
     EXPECT_EQ(graph.plot.yMax(), before);
 }
 
+TEST_F(Graph, AFailureOfALimitNamesItsBoxAndWhatStoodInIt) {
+    frmGraph graph;
+    const auto failure = failureOf([&] { graph.leaveLimit(frmGraph::yMax, "1e99"); });
+    ASSERT_TRUE(failure);
+    EXPECT_EQ(failure->box(), "txtYMax");
+    EXPECT_EQ(failure->description(),
+              RuntimeFailure(Failure::overflow).description() +
+                  "\r\n« Y max » attend un nombre d'au plus 38 chiffres ; il y avait « 1e99 ».");
+}
+
+TEST_F(Graph, ALimitThatIsNoNumberIsWrittenBackAsTheZeroItCountsAs) {
+    frmGraph graph;
+    int shown = 0;
+    graph.changed = [&] { ++shown; };
+    graph.leaveLimit(frmGraph::xMax, "abc");
+    EXPECT_EQ(graph.txtLimit[frmGraph::xMax], "0");
+    EXPECT_EQ(shown, 1);
+    graph.leaveLimit(frmGraph::xMax, "2,5");
+    EXPECT_EQ(graph.txtLimit[frmGraph::xMax], "2,5");
+}
+
 TEST_F(Graph, AnEmptyPlotKeepsItsRangeAndAFlatOneGetsSomeHeight) {
     frmGraph graph;
     const PlotRange before = graph.plot.range();

@@ -37,6 +37,7 @@ class GamePageTest : public BoulixTest, protected gameView {
     }
     std::vector<std::int64_t> selectedRows() const override { return selected; }
     bool anyRowSelected() const override { return !selected.empty(); }
+    void showSide(int index) override { side = index; }
     void refresh() override { ++refreshes; }
     void runGameList(frmGameList &window) override {
         if (onGameList)
@@ -82,6 +83,7 @@ class GamePageTest : public BoulixTest, protected gameView {
     std::vector<std::int64_t> selected;
     std::function<void(frmGameList &)> onGameList;
     std::function<void(frmOptimiser &)> onOptimiser;
+    int side = -1; ///< the sub-tab that was asked for last
     int refreshes = 0;
     int gamesShown = 0;
 };

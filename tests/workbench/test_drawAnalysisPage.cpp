@@ -202,5 +202,15 @@ TEST_F(DrawAnalysisPage, ATypedPositionGoesToTheControlWhereItIsOne) {
     }
 }
 
+TEST_F(DrawAnalysisPage, TheEmptyListSaysWhatFillsIt) {
+    startWith({});
+    EXPECT_EQ(page.lvwTirStat.whenEmpty().sentence,
+              "La base est vide : importez d'abord des tirages.");
+    addDraw({1, 2, 3, 4, 5, 6, 7});
+    mainWindow->frmUpdateDBList();
+    EXPECT_EQ(page.lvwTirStat.whenEmpty().sentence,
+              "Choisissez une ou plusieurs analyses dans la liste.");
+}
+
 } // namespace
 } // namespace boulix

@@ -131,5 +131,30 @@ TEST_F(StatisticsPage, AGraphWindowThatTheUserClosesReleasesTheButton) {
     EXPECT_EQ(modStats::graphWindowPos, somewhere);
 }
 
+TEST_F(StatisticsPage, TheGraphOfAFrequencyHasWhatChanceLetsExpectAsALine) {
+    startWithFourDraws();
+    pressGraph(true);
+    compute(1);
+    ASSERT_TRUE(graph->plot.expected());
+    EXPECT_DOUBLE_EQ(*graph->plot.expected(), 4 * 6.0 / 49);
+    pressCompl(true);
+    EXPECT_DOUBLE_EQ(*graph->plot.expected(), 4 * 6.0 / 49) << "the curve is still the old one";
+    computeAgain();
+    EXPECT_DOUBLE_EQ(*graph->plot.expected(), 4 * 7.0 / 49);
+    page.leaveStart("3");
+    computeAgain();
+    EXPECT_DOUBLE_EQ(*graph->plot.expected(), 2 * 7.0 / 49);
+    compute(2, {1});
+    EXPECT_DOUBLE_EQ(*graph->plot.expected(), 2 * 6.0 / 49 * 6 / 48);
+    compute(2, {49});
+    EXPECT_FALSE(graph->plot.expected()) << "no row, no curve";
+    compute(7);
+    EXPECT_FALSE(graph->plot.expected());
+    page.pickType(1);
+    pressGraph(false);
+    pressGraph(true);
+    EXPECT_FALSE(graph->plot.expected()) << "the stores hold delays";
+}
+
 } // namespace
 } // namespace boulix

@@ -352,5 +352,89 @@ TEST_F(StatisticsPage, AnExportThatCannotBeWrittenIsShownAndTheProgramLivesOn) {
     EXPECT_EQ(rows().size(), 49U);
 }
 
+TEST_F(StatisticsPage, AResultThatCountsHasBarsWithTheirMean) {
+    startWithFourDraws();
+    compute(1);
+    const reportList &list = page.lvwStatsResult;
+    ASSERT_TRUE(list.bars());
+    EXPECT_EQ(list.bars()->column, 1);
+    EXPECT_EQ(list.bars()->largest, 3);
+    EXPECT_DOUBLE_EQ(list.bars()->mean, 24.0 / 49);
+    EXPECT_DOUBLE_EQ(list.barOf(0), 1);
+    EXPECT_DOUBLE_EQ(list.barOf(2), 2.0 / 3);
+    EXPECT_DOUBLE_EQ(list.barOf(48), 0);
+    EXPECT_EQ(page.lblStatsNote, "Moyenne de la liste : 0,49 (le trait dans chaque ligne)");
+    page.clickHeader(1);
+    EXPECT_DOUBLE_EQ(list.barOf(48), 1) << "the bars are sorted with their rows";
+    compute(11);
+    EXPECT_FALSE(list.bars());
+    EXPECT_EQ(page.lblStatsNote, "");
+}
+
+TEST_F(StatisticsPage, AResultLooksOutdatedAsSoonAsTheChoiceIsAnotherAndNotBeforeTheFirst) {
+    startWithFourDraws();
+    const auto outdated = [this] { return page.lvwStatsResult.outdated(); };
+    page.pickType(7);
+    EXPECT_FALSE(outdated()) << "nothing is there yet";
+    compute(1);
+    EXPECT_FALSE(outdated());
+    page.pickType(3);
+    EXPECT_TRUE(outdated());
+    page.pickType(1);
+    EXPECT_FALSE(outdated());
+    pressCompl(true);
+    EXPECT_TRUE(outdated());
+    pressCompl(false);
+    page.leaveEnd("3");
+    EXPECT_TRUE(outdated());
+    computeAgain();
+    EXPECT_FALSE(outdated());
+    mainWindow->frmUpdateDBList();
+    EXPECT_TRUE(outdated()) << "the base can be another one";
+}
+
+TEST_F(StatisticsPage, TheMarkedNumbersGoToTheGamesAsTheirSource) {
+    startWithFourDraws();
+    page.clickButton(statisticsPage::playNumbers);
+    EXPECT_EQ(mainWindow->visiblePage(), 0) << "there are none";
+    page.grdStatNbrSelector.click(7);
+    page.clickButton(statisticsPage::playNumbers);
+    EXPECT_EQ(mainWindow->visiblePage(), 4);
+    EXPECT_TRUE(mainWindow->games.design.chkSelect[gameDesign::statisticNumbers]);
+    EXPECT_EQ(mainWindow->games.design.currentTab(), gameDesign::selectorsTab);
+}
+
+TEST_F(StatisticsPage, AnEmptyListSaysWhatFillsIt) {
+    const auto place = [this]() -> const EmptyPlace & { return page.lvwStatsResult.whenEmpty(); };
+    startWith({});
+    EXPECT_EQ(place().sentence, "La base est vide : importez d'abord des tirages.");
+    addDraw({1, 2, 3, 4, 5, 6, 7});
+    mainWindow->frmUpdateDBList();
+    EXPECT_EQ(place().sentence, "Choisissez un type de statistique, puis cliquez sur « Type ».");
+    EXPECT_EQ(place().link, "Calculer");
+    compute(2, {49});
+    EXPECT_EQ(page.lvwStatsResult.rowCount(), 0);
+    EXPECT_EQ(place().sentence, "Ce calcul n'a pas de résultat.");
+}
+
+TEST_F(StatisticsPage, TheLinkOfTheEmptyListComputes) {
+    startWithFourDraws();
+    const EmptyPlace place = page.lvwStatsResult.whenEmpty();
+    place.follow();
+    EXPECT_EQ(page.lvwStatsResult.rowCount(), 49);
+}
+
+TEST_F(StatisticsPage, AnExportAndAPrintAreAnnounced) {
+    startWithFourDraws();
+    desktop.cancelSave();
+    page.clickButton(statisticsPage::exportResult);
+    EXPECT_TRUE(desktop.announcements.empty());
+    desktop.answerSave(file("stat.txt"));
+    page.clickButton(statisticsPage::exportResult);
+    page.clickButton(statisticsPage::printResult);
+    EXPECT_EQ(desktop.announcements,
+              (Texts{"Statistique exportée dans stat.txt.", "Statistique imprimée."}));
+}
+
 } // namespace
 } // namespace boulix

@@ -7,6 +7,7 @@
 #include "files/modFileSelector.h"
 #include "sill/reports.h"
 #include "stats/plotPane.h"
+#include "stats/statMeasure.h"
 #include "ui/style/theme.h"
 #include "ui/widgets/qtText.h"
 
@@ -115,8 +116,10 @@ void PlotView::redraw() {
         return;
     drawing_ = true;
     plot_->clearPlottables();
+    plot_->clearItems();
     drawAxes();
     drawCurves();
+    drawExpected();
     drawing_ = false;
     plot_->replot(QCustomPlot::rpQueuedReplot);
 }
@@ -169,6 +172,33 @@ void PlotView::drawCurves() {
         else if (auto *asGraph = qobject_cast<QCPGraph *>(drawn))
             asGraph->setData(x, y, true);
     }
+}
+
+/// The line of the expected value, and over the plot what it means.
+void PlotView::drawExpected() {
+    const std::optional<double> y = pane_.expected();
+    if (legend_ && !y) {
+        plot_->plotLayout()->remove(legend_);
+        plot_->plotLayout()->simplify();
+        legend_ = nullptr;
+    }
+    if (!y)
+        return;
+    const QColor color = palette().color(QPalette::Text);
+    auto *line = new QCPItemStraightLine(plot_);
+    line->point1->setCoords(0, *y);
+    line->point2->setCoords(1, *y);
+    line->setPen(QPen(color, 1.2, Qt::DashLine));
+    if (!legend_) {
+        plot_->plotLayout()->insertRow(0);
+        legend_ = new QCPTextElement(plot_);
+        plot_->plotLayout()->addElement(0, 0, legend_);
+    }
+    legend_->setText(QStringLiteral("- - -  valeur attendue du hasard : %1")
+                         .arg(toQt(modStats::measureText(*y))));
+    legend_->setFont(font());
+    legend_->setTextColor(color);
+    legend_->setTextFlags(Qt::AlignRight | Qt::AlignVCenter);
 }
 
 /// Pens and fills by what is in sight, before each drawing.

@@ -6,6 +6,7 @@
 #include <QWidget>
 
 class QCPAbstractPlottable;
+class QCPTextElement;
 class QCustomPlot;
 
 namespace boulix {
@@ -37,6 +38,7 @@ class PlotView : public QWidget {
     void redraw();
     void drawAxes();
     void drawCurves();
+    void drawExpected();
     void dressCurves();
     QCPAbstractPlottable *makeBars();
     QCPAbstractPlottable *makeGraph();
@@ -48,6 +50,7 @@ class PlotView : public QWidget {
 
     PlotPane &pane_;
     QCustomPlot *plot_;
+    QCPTextElement *legend_ = nullptr; ///< over the plot, while there is something to tell
     bool drawing_ = false;
 };
 

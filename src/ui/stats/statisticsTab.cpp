@@ -30,6 +30,7 @@ StatisticsTab::StatisticsTab(statisticsPage &page, QWidget *parent)
     : QWidget(parent), page_(page), tbarStats(makeToolbar()), types_(new QMenu(this)),
       lblStatType(new QLabel(this)), lblStatDesc(new QLabel(this)),
       lvwStatsResult(new ReportView(page.lvwStatsResult, this)), lblStatsStatus(new QLabel(this)),
+      lblStatsNote(new QLabel(this)),
       frameStatsRange(new QGroupBox(QStringLiteral("Plage d'étude"), this)),
       start_(new UpDownField(page.updStatStart, QStringLiteral("txtStatStart"),
                              QStringLiteral("updStatStart"), frameStatsRange)),
@@ -41,6 +42,7 @@ StatisticsTab::StatisticsTab(statisticsPage &page, QWidget *parent)
     lblStatDesc->setObjectName(QStringLiteral("lblStatDesc"));
     lblStatDesc->setToolTip(QStringLiteral("Descriptif du type de statistique actif"));
     lblStatsStatus->setObjectName(QStringLiteral("lblStatsStatus"));
+    lblStatsNote->setObjectName(QStringLiteral("lblStatsNote"));
     lvwStatsResult->setObjectName(QStringLiteral("lvwStatsResult"));
     lvwStatsResult->setToolTip(QStringLiteral("Résultats de l'analyse statistique"));
     lvwStatsResult->setAccessibleName(QStringLiteral("Résultats de l'analyse statistique"));
@@ -84,6 +86,10 @@ QToolBar *StatisticsTab::makeToolbar() {
         {QStringLiteral("E&ffacer"),
          QStringLiteral("Effacer la liste des numéros sélectionnés"),
          QStringLiteral("clear"),
+         {}},
+        {QStringLiteral("Jo&uer ces numéros"),
+         QStringLiteral("Passer aux jeux avec les numéros sélectionnés ici comme source"),
+         QStringLiteral("game"),
          {}},
     };
     QToolBar *bar = boulix::makeToolbar(
@@ -154,6 +160,7 @@ void StatisticsTab::layOut() {
     lblStatType->setWordWrap(true);
     lblStatDesc->setWordWrap(true);
     lblStatsStatus->setWordWrap(true);
+    lblStatsNote->setWordWrap(true);
     lblStatDesc->setAlignment(Qt::AlignLeft | Qt::AlignTop);
 
     auto *left = new QVBoxLayout;
@@ -162,6 +169,7 @@ void StatisticsTab::layOut() {
     left->addWidget(lblStatDesc);
     left->addWidget(lvwStatsResult, 1);
     left->addWidget(lblStatsStatus);
+    left->addWidget(lblStatsNote);
 
     auto *right = new QVBoxLayout;
     right->setSpacing(theme::gap);
@@ -189,6 +197,9 @@ void StatisticsTab::refresh() {
     lblStatType->setText(toQt(page_.lblStatType));
     lblStatDesc->setText(toQt(page_.lblStatDesc));
     lblStatsStatus->setText(toQt(page_.lblStatsStatus));
+    lblStatsStatus->setEnabled(!page_.lvwStatsResult.outdated());
+    lblStatsNote->setText(toQt(page_.lblStatsNote));
+    lblStatsNote->setVisible(!page_.lblStatsNote.empty());
     lblStatStartDate->setText(toQt(page_.lblStatStartDate));
     lblStatEndDate->setText(toQt(page_.lblStatEndDate));
     start_->refresh(toQt(page_.txtStatStart));
@@ -198,9 +209,19 @@ void StatisticsTab::refresh() {
     graph->setEnabled(page_.graphButtonEnabled);
     graph->setChecked(page_.graphButton() == 1);
     button(statisticsPage::withComplementary)->setChecked(page_.complementaryChoice() == 1);
+    setWhyOff(*button(statisticsPage::playNumbers),
+              page_.canPlay() ? QString()
+                              : QStringLiteral("Cochez d'abord des numéros sur la grille ou dans "
+                                               "la liste."));
     const QList<QAction *> types = types_->actions();
     if (page_.currentType() >= 1 && page_.currentType() <= types.size())
         types[page_.currentType() - 1]->setChecked(true);
+}
+
+/// The board can have changed on the other page meanwhile.
+void StatisticsTab::showEvent(QShowEvent *event) {
+    QWidget::showEvent(event);
+    refresh();
 }
 
 void StatisticsTab::openGraph(frmGraph &graph) {

@@ -35,6 +35,9 @@ class StatisticsTab : public QWidget, public statisticsView {
     void openGraph(frmGraph &graph) override;
     modStats::GraphWindowPos closeGraph() override;
 
+  protected:
+    void showEvent(QShowEvent *event) override;
+
   private:
     QToolBar *makeToolbar();
     void makeTypeMenu();
@@ -50,6 +53,7 @@ class StatisticsTab : public QWidget, public statisticsView {
     QLabel *lblStatDesc;
     ReportView *lvwStatsResult;
     QLabel *lblStatsStatus;
+    QLabel *lblStatsNote;
     QGroupBox *frameStatsRange;
     UpDownField *start_;
     UpDownField *end_;

@@ -160,6 +160,10 @@ void GameTab::showButtons() {
         setWhyOff(*action, toQt(page_.whyOff(++button)));
 }
 
+void GameTab::showSide(int index) {
+    TabGame->setCurrentIndex(index);
+}
+
 void GameTab::refresh() {
     chkUpdateList->setChecked(page_.chkUpdateList());
     count_->setText(toQt(page_.lblCount()));

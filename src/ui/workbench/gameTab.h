@@ -31,6 +31,7 @@ class GameTab : public QWidget, public gameView {
 
     std::vector<std::int64_t> selectedRows() const override;
     bool anyRowSelected() const override;
+    void showSide(int index) override;
     void refresh() override;
     void runGameList(frmGameList &window) override;
     void runOptimiser(frmOptimiser &window) override;

@@ -24,6 +24,7 @@ void keepGraph() {
         y.push_back(600 + std::round(40 * std::sin(i * 1.7)));
     }
     rules.plot.titles("N°", "Fréquence");
+    rules.plot.expected(594.86);
     rules.plot.addCurve(x, y);
     GraphWindow window(rules);
     for (std::int16_t type = 0; type < 4; ++type) {

@@ -31,11 +31,13 @@ void keepPages() {
     for (const std::int16_t n : std::vector<std::int16_t>{3, 17, 28, 49})
         mainWindow->statistics.grdStatNbrSelector.click(n);
     mainWindow->statistics.clickButton(statisticsPage::withComplementary, true);
-    for (const std::int16_t type : std::vector<std::int16_t>{6, 7, 11, 17}) {
+    for (const std::int16_t type : std::vector<std::int16_t>{1, 6, 7, 11, 17}) {
         mainWindow->statistics.pickType(type);
         mainWindow->statistics.clickButton(statisticsPage::computeType);
         keep(window, QStringLiteral("statisticsTab-%1").arg(type));
     }
+    mainWindow->statistics.pickType(1);
+    keep(window, QStringLiteral("statisticsTab-outdated"));
     window.resize(window.minimumSizeHint());
     keep(window, QStringLiteral("statisticsTab-smallest"));
 

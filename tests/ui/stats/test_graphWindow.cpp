@@ -249,6 +249,31 @@ TEST_F(GraphWindowTest, ThePictureIsKeptAsSvgWithItsWords) {
     EXPECT_TRUE(desktop.messages.empty());
 }
 
+TEST_F(GraphWindowTest, TheExpectedValueIsALineWithAWordOverTheGraphAndInItsPictures) {
+    const auto picture = [this] { return readBytes(keep("mnuGraphSvg", file("graphe.svg"))); };
+    const auto hasLegend = [](const std::string &svg) {
+        return svg.find("valeur attendue du hasard : 66,7") != std::string::npos;
+    };
+    const std::string without = picture();
+    EXPECT_FALSE(hasLegend(without));
+    rules->plot.expected(66.667);
+    const std::string with = picture();
+    EXPECT_TRUE(hasLegend(with));
+    const auto dashedLines = [](const std::string &svg) {
+        int count = 0;
+        for (std::size_t at = svg.find("stroke-dasharray"); at != std::string::npos;
+             at = svg.find("stroke-dasharray", at + 1))
+            ++count;
+        return count;
+    };
+    EXPECT_EQ(dashedLines(with), dashedLines(without) + 1);
+    rules->plot.clearCurves();
+    rules->plot.addCurve({1, 2, 3}, {40, 100, 60});
+    const std::string after = picture();
+    EXPECT_FALSE(hasLegend(after)) << "it goes with the curve";
+    EXPECT_EQ(dashedLines(after), dashedLines(without));
+}
+
 TEST_F(GraphWindowTest, ADismissedFileDialogKeepsNoPicture) {
     for (const char *entry : {"mnuGraphPng", "mnuGraphSvg"}) {
         desktop.cancelSave();

@@ -287,5 +287,37 @@ TEST_F(DrawAnalysisTabTest, TheArrowsAndTheBoxMoveFromDrawToDraw) {
     EXPECT_EQ(box.text().toStdString(), "3");
 }
 
+TEST_F(StatisticsTabTest, MarkedNumbersAreTakenToTheGamesWithTheirSourceTicked) {
+    QAction &play = button(statisticsPage::playNumbers);
+    EXPECT_FALSE(play.isEnabled());
+    EXPECT_EQ(play.toolTip().toStdString(),
+              "Passer aux jeux avec les numéros sélectionnés ici comme source\n"
+              "Cochez d'abord des numéros sur la grille ou dans la liste.");
+    press(statisticsPage::computeType);
+    clickRow(3);
+    EXPECT_TRUE(play.isEnabled());
+    control<QTabWidget>(window, "TabGame").setCurrentIndex(0);
+    press(statisticsPage::playNumbers);
+    EXPECT_EQ(control<QTabWidget>(window, "TabStrip").currentIndex(), 4);
+    EXPECT_EQ(control<QTabWidget>(window, "TabGame").currentIndex(), 3);
+    auto &source = control<QCheckBox>(window, "chkSelect_0");
+    EXPECT_TRUE(source.isVisible());
+    EXPECT_TRUE(source.isChecked());
+    control<QTabWidget>(window, "TabStrip").setCurrentIndex(1);
+    press(statisticsPage::erase);
+    EXPECT_FALSE(play.isEnabled());
+}
+
+TEST_F(StatisticsTabTest, AResultOfAnEarlierChoiceIsSaidToBeOne) {
+    press(statisticsPage::computeType);
+    EXPECT_EQ(label("lblStatsNote"), "Moyenne de la liste : 2,4 (le trait dans chaque ligne)");
+    pick(7);
+    EXPECT_EQ(label("lblStatsNote"),
+              "Ce résultat est celui d'avant : cliquez sur « Type » pour calculer.");
+    EXPECT_TRUE(mainWindow->statistics.lvwStatsResult.outdated());
+    pick(1);
+    EXPECT_FALSE(mainWindow->statistics.lvwStatsResult.outdated());
+}
+
 } // namespace
 } // namespace boulix

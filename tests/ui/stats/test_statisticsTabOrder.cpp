@@ -52,6 +52,7 @@ TEST_F(StatisticsTabOrderTest, TheStatisticsPageGoesFromTheListOverTheRangeToThe
     Names names = orderIn(startOn(1), "lvwStatsResult");
     for (int i = 1; i <= 6; ++i)
         EXPECT_EQ(std::erase(names, "tbarStats_" + std::to_string(i)), 1U);
+    EXPECT_EQ(std::erase(names, "emptyPlace"), 2U) << "the link of the empty list";
     EXPECT_EQ(names, (Names{"lvwStatsResult", "txtStatStart", "txtStatEnd", "grdStatNbrSelector",
                             "qt_tabwidget_tabbar"}));
 }
