@@ -32,6 +32,7 @@ class dbComb {
     Date day() const { return day_; }
     void day(Date day) { day_ = day; }
 
+    bool operator==(const dbComb &) const = default;
     /// Overwrites this draw with the contents of `other`.
     void copy(const dbComb &other) { *this = other; }
     /// How many of the six numbers are even; the complementary counts only with `mode` 1.

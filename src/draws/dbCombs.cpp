@@ -78,6 +78,20 @@ void dbCombs::Remove(std::int64_t index) {
     save();
 }
 
+void dbCombs::exchange(KeptDraws &other) {
+    const bool wasSaved = saved_;
+    changing().swap(other.draws);
+    try {
+        if (other.saved)
+            save();
+    } catch (...) {
+        changing().swap(other.draws);
+        throw; // the file can be gone: `saved_` stays false
+    }
+    saved_ = other.saved;
+    other.saved = wasSaved;
+}
+
 void dbCombs::load() {
     clear();
     saved_ = true; // from here on nothing is in memory but what was in the file

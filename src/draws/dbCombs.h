@@ -21,6 +21,12 @@ class gameResult;
 class gameWin;
 struct progressBar;
 
+/// The draws of the base as they were at some time, and whether the file held them.
+struct KeptDraws {
+    std::vector<dbComb> draws;
+    bool saved = true;
+};
+
 /// All past draws in memory, and the only reader and writer of their file. A draw is numbered by
 /// its position from 1, the oldest first after a sort. References to draws hold until the
 /// collection changes.
@@ -57,6 +63,13 @@ class dbCombs {
     /// Writes the file, as every change of a draw does by itself.
     void saveAgain() { save(); }
 
+    /// A copy of the draws, to be given back to `exchange`.
+    KeptDraws kept() const { return {draws_, saved_}; }
+    /// Takes the draws of `other` and gives it those that were there. The file follows, unless it
+    /// did not hold them when they were kept. Where it cannot be written the draws stay as they
+    /// are.
+    void exchange(KeptDraws &other);
+
     /// Removes the draw at `index` and saves.
     void Remove(std::int64_t index);
     /// Lets the user change the draw at `index`, then sorts and saves, also after a cancel.
@@ -76,6 +89,10 @@ class dbCombs {
     void load();
     /// Asks for a file of the operator and merges it. True when the base was merged and saved.
     bool ImportFdjFile();
+    /// The same for a file that needs no asking.
+    bool ImportFrom(const std::string &fileName);
+    /// How many draws the last import has read, up to its end or its cancel.
+    std::int64_t importedDraws() const { return importedDraws_; }
 
     /// Checks the game against every draw, moving the bar. `wins[rank][k]` is the k-th draw that
     /// won at the rank, k from 1 to `winsCount[rank]`; both tables are made anew.
@@ -106,6 +123,7 @@ class dbCombs {
     mutable std::optional<drawIndex> index_;
     xFile dbFile_;
     bool saved_ = true;
+    std::int64_t importedDraws_ = 0;
 };
 
 } // namespace boulix

@@ -80,8 +80,11 @@ bool dbCombs::ImportFdjFile() {
     const std::string fileName =
         modFileSelector::openDialog("Fichier texte de la française des jeux (*.*)|*.*",
                                     "Importation d'un fichier texte de la française des jeux");
-    if (fileName.empty())
-        return false;
+    return !fileName.empty() && ImportFrom(fileName);
+}
+
+bool dbCombs::ImportFrom(const std::string &fileName) {
+    importedDraws_ = 0;
     ProgressShown progress("Importation de combinaisons", "Importation en cours...");
     if (!readImport(fileName, *progress))
         return false;
@@ -112,6 +115,7 @@ bool dbCombs::readImport(const std::string &fileName, frmProgress &progress) {
         dbComb draw;
         draw.fromString(line, columns);
         Add(draw.day(), draw.id(), draw.comb(), false, "");
+        importedDraws_ = i;
         desktop().runEvents();
         if (progress.cancelled())
             return false;

@@ -7,6 +7,7 @@
 #include "draws/dbCombs.h"
 #include "files/modFileSelector.h"
 #include "printing/modPrinter.h"
+#include "sill/desktop.h"
 
 #include <algorithm>
 
@@ -45,6 +46,9 @@ void dbCombs::ExportDB() {
     for (const dbComb &draw : draws_)
         text += exportLine(draw) + crlf;
     replaceFile(fileName, toWestern(text));
+    desktop().announce((Count() > 1 ? std::to_string(Count()) + " tirages exportés dans "
+                                    : "Base exportée dans ") +
+                       fileName.substr(fileName.find_last_of("/\\") + 1) + ".");
 }
 
 void dbCombs::PrintDB() {
@@ -62,6 +66,7 @@ void dbCombs::PrintDB() {
         report->line(line);
     }
     report->end();
+    desktop().announce("Base de données imprimée.");
 }
 
 } // namespace boulix

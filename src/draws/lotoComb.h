@@ -36,6 +36,7 @@ class lotoComb {
     /// Whether the mask says everything: six different numbers of 1 to 49.
     bool isWhole() const { return std::popcount(mask_) == size; }
 
+    bool operator==(const lotoComb &) const = default;
     lotoComb copy() const { return *this; }
     /// Orders the six numbers ascending; the complementary and the sums stay.
     void sort();

@@ -8,10 +8,13 @@
 #include <QWidget>
 
 class QLabel;
+class QLineEdit;
 class QToolBar;
+class QToolButton;
 
 namespace boulix {
 
+class ElidedLabel;
 class NumberBoardView;
 class ReportView;
 
@@ -25,17 +28,33 @@ class DatabaseTab : public QWidget, public databaseView {
     ~DatabaseTab() override;
 
     std::vector<std::int64_t> selectedRows() const override;
+    void goToRow(std::int64_t row, bool select) override;
     void refresh() override;
+
+  protected:
+    void showEvent(QShowEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
   private:
     void makeToolbar();
+    QWidget *makeSearch();
+    QToolButton *makeStep(const char *name, const char *icon, const QString &toolTip,
+                          const QKeySequence &keys, void (databasePage::*step)());
+    void makeSearchKeys();
     void layOut();
+    void leaveSearch();
+    void refreshButtons();
 
     databasePage &page_;
     QToolBar *tbarDB;
+    QLineEdit *txtFind;
+    QToolButton *cmdFindNext;
+    QToolButton *cmdFindPrevious;
+    ElidedLabel *lblFound;
     ReportView *lvwDBcomb;
     NumberBoardView *grdDB;
     QLabel *lblDBCombDesc;
+    bool placed_ = false; ///< the list has once had its place on the screen
 };
 
 } // namespace boulix

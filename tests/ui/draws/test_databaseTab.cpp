@@ -16,6 +16,7 @@
 #include <QFileDialog>
 #include <QHeaderView>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QToolBar>
 #include <QToolButton>
@@ -71,6 +72,8 @@ class DatabaseTabTest : public ScreenTest {
 };
 
 TEST_F(DatabaseTabTest, TheToolbarHasItsCaptionsToolTipsAndIcons) {
+    importThreeDraws();
+    clickRow(1);
     const std::pair<const char *, const char *> buttons[] = {
         {"Importer", "Importer des tirages depuis un fichier texte de la française des jeux"},
         {"Ajouter", "Ajouter une combinaison à la base de données des tirages"},
@@ -232,6 +235,105 @@ TEST_F(DatabaseTabTest, TheSampleHistoryComesInThroughTheRealDialog) {
     press(databasePage::importDraws);
     EXPECT_EQ(list().model()->rowCount(), 600);
     EXPECT_EQ(label("StatusBar_1"), "600 combinaisons dans la base de données");
+}
+
+TEST_F(DatabaseTabTest, WithoutASelectedDrawTheButtonsThatNeedOneAreOffAndSayWhy) {
+    importThreeDraws();
+    const auto &modify = control<QAction>(window, "tbarDB_3");
+    const auto &remove = control<QAction>(window, "tbarDB_4");
+    EXPECT_FALSE(modify.isEnabled());
+    EXPECT_FALSE(remove.isEnabled());
+    EXPECT_EQ(remove.toolTip().toStdString(),
+              "Supprimer une combinaison de la base de données des tirages\n"
+              "Choisissez d'abord un tirage dans la liste.");
+    clickRow(2);
+    EXPECT_TRUE(modify.isEnabled());
+    press(databasePage::removeDraw);
+    EXPECT_FALSE(remove.isEnabled());
+    EXPECT_TRUE(control<QAction>(window, "tbarDB_6").isEnabled());
+}
+
+/// The base of the sample history: more draws than the list can show at once.
+class DatabaseSearchTest : public DatabaseTabTest {
+  protected:
+    DatabaseSearchTest() : line(control<QLineEdit>(window, "txtFind")) {
+        robot.chooseFile(sampleHistory().string());
+        press(databasePage::importDraws);
+        window.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+    }
+    bool isInSight(std::int64_t row) const {
+        const QRect place = list().visualRect(list().model()->index(static_cast<int>(row) - 1, 0));
+        return list().viewport()->rect().contains(QPoint(1, place.center().y()));
+    }
+    std::string dateOf(std::int64_t row) const {
+        return mainWindow->database.lvwDBcomb.text(row - 1, 0);
+    }
+
+    QLineEdit &line;
+};
+
+TEST_F(DatabaseSearchTest, TheListOpensAtTheNewestDrawWithoutSelectingIt) {
+    EXPECT_TRUE(isInSight(600));
+    EXPECT_FALSE(isInSight(1));
+    EXPECT_TRUE(mainWindow->database.lvwDBcomb.isPointedAt(599));
+    EXPECT_EQ(list().selectedRows(), std::vector<std::int64_t>{});
+}
+
+TEST_F(DatabaseSearchTest, ControlFLeadsIntoTheLineAndEscapeBackToTheList) {
+    list().setFocus();
+    QTest::keySequence(&window, QKeySequence(QKeySequence::Find));
+    EXPECT_TRUE(line.hasFocus());
+    QTest::keyClicks(&line, QStringLiteral("7 13"));
+    EXPECT_NE(label("lblFound"), "");
+    QTest::keyClick(&line, Qt::Key_Escape);
+    EXPECT_TRUE(list().hasFocus());
+    EXPECT_EQ(line.text().toStdString(), "");
+    EXPECT_EQ(label("lblFound"), "");
+}
+
+TEST_F(DatabaseSearchTest, ADateTypedInTheListJumpsToItsDraw) {
+    const std::int64_t wanted = 20;
+    list().setFocus();
+    const QString date = QString::fromStdString(dateOf(wanted));
+    QTest::keyClicks(&list(), date.left(1));
+    EXPECT_TRUE(line.hasFocus());
+    QTest::keyClicks(&line, date.mid(1));
+    EXPECT_EQ(line.text(), date);
+    const std::vector<std::int64_t> rows = list().selectedRows();
+    ASSERT_EQ(rows.size(), 1U);
+    EXPECT_EQ(dateOf(rows.front()), date.toStdString());
+    EXPECT_TRUE(isInSight(rows.front()));
+    EXPECT_EQ(mainWindow->database.shownDraw(), rows.front());
+}
+
+TEST_F(DatabaseSearchTest, ReturnAndF3GoFromOneDrawFoundToTheNext) {
+    QTest::keyClicks(&line, QStringLiteral("7"));
+    const std::vector<std::int32_t> found = mainWindow->database.finder.found();
+    ASSERT_GT(found.size(), 3U);
+    const auto at = [&](std::size_t fromNewest) { return found[found.size() - 1 - fromNewest]; };
+    EXPECT_EQ(mainWindow->database.getSelectedDraw(), at(0));
+    line.setFocus();
+    QTest::keyClick(&line, Qt::Key_Return);
+    EXPECT_EQ(mainWindow->database.getSelectedDraw(), at(1));
+    QTest::keySequence(&window, QKeySequence(Qt::Key_F3));
+    EXPECT_EQ(mainWindow->database.getSelectedDraw(), at(2));
+    QTest::keySequence(&window, QKeySequence(Qt::SHIFT | Qt::Key_F3));
+    EXPECT_EQ(mainWindow->database.getSelectedDraw(), at(1));
+    QTest::keyClick(&line, Qt::Key_Return, Qt::ShiftModifier);
+    EXPECT_EQ(mainWindow->database.getSelectedDraw(), at(0));
+    click(control<QToolButton>(window, "cmdFindNext"));
+    EXPECT_EQ(mainWindow->database.getSelectedDraw(), at(1));
+    EXPECT_TRUE(isInSight(at(1)));
+}
+
+TEST_F(DatabaseSearchTest, TheArrowsOfTheLineGoOnInTheList) {
+    QTest::keyClicks(&line, QStringLiteral("7"));
+    const std::int32_t found = mainWindow->database.getSelectedDraw();
+    QTest::keyClick(&line, Qt::Key_Up);
+    EXPECT_EQ(mainWindow->database.getSelectedDraw(), found - 1);
+    EXPECT_TRUE(list().hasFocus());
+    EXPECT_EQ(line.text().toStdString(), "7");
 }
 
 } // namespace

@@ -138,6 +138,7 @@ std::string numbered(const char *name, std::size_t i) {
 TypedBoxes boxesOfThePages(frmMain &pages) {
     systemMaker &systems = pages.games.design.systems;
     TypedBoxes boxes = {
+        {"txtFind", {{"12", "13"}, [&pages] { return pages.database.finder.text(); }}},
         {"txtStatStart", position(pages.statistics.updStatStart, "3", "4")},
         {"txtStatEnd", position(pages.statistics.updStatEnd, "40", "41")},
         {"txtTirNbr", position(pages.analysis.updnTirNbr, "7", "8")},
