@@ -254,12 +254,14 @@ TEST_F(Graph, ALimitBeyondSinglePrecisionIsAFailureAndChangesNothing) {
 
 TEST_F(Graph, AFailureOfALimitNamesItsBoxAndWhatStoodInIt) {
     frmGraph graph;
-    const auto failure = failureOf([&] { graph.leaveLimit(frmGraph::yMax, "1e99"); });
+    const std::string typed(50, '9');
+    const auto failure = failureOf([&] { graph.leaveLimit(frmGraph::yMax, typed); });
     ASSERT_TRUE(failure);
     EXPECT_EQ(failure->box(), "txtYMax");
     EXPECT_EQ(failure->description(),
               RuntimeFailure(Failure::overflow).description() +
-                  "\r\n« Y max » attend un nombre d'au plus 38 chiffres ; il y avait « 1e99 ».");
+                  "\r\n« Y max » attend un nombre d'au plus 38 chiffres ; il y avait « " + typed +
+                  " ».");
 }
 
 TEST_F(Graph, ALimitThatIsNoNumberIsWrittenBackAsTheZeroItCountsAs) {
