@@ -56,6 +56,10 @@ void frmSelDate::makeCalendar() {
     const QTextCharFormat plain = mvwDate->weekdayTextFormat(Qt::Monday);
     mvwDate->setWeekdayTextFormat(Qt::Saturday, plain);
     mvwDate->setWeekdayTextFormat(Qt::Sunday, plain);
+    // The days of the months around can be chosen, too: they are quieter, not switched off.
+    QPalette days = mvwDate->palette();
+    days.setColor(QPalette::Disabled, QPalette::Text, days.color(QPalette::PlaceholderText));
+    mvwDate->setPalette(days);
     giveArrow(QStringLiteral("qt_calendar_prevmonth"), QStringLiteral("previous"));
     giveArrow(QStringLiteral("qt_calendar_nextmonth"), QStringLiteral("next"));
     const int cell = fontMetrics().height() * 9 / 4;

@@ -9,9 +9,10 @@ namespace boulix::theme {
 
 namespace {
 
-/// The colours that tell the two palettes apart; all others follow from them.
+/// The colours that tell the two palettes apart; all others follow from them. Hints are muted, and
+/// can still be read well; what is switched off is paler.
 struct Shades {
-    QColor window, base, alternate, button, text, muted, highlight, link;
+    QColor window, base, alternate, button, text, muted, off, highlight, link;
 };
 
 QPalette paletteOf(const Shades &s) {
@@ -27,9 +28,9 @@ QPalette paletteOf(const Shades &s) {
     p.setColor(QPalette::Link, s.link);
     p.setColor(QPalette::LinkVisited, s.link);
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-        p.setColor(QPalette::Disabled, role, s.muted);
+        p.setColor(QPalette::Disabled, role, s.off);
     p.setColor(QPalette::Disabled, QPalette::Base, s.window); // a closed box does not look open
-    p.setColor(QPalette::Disabled, QPalette::Highlight, blend(s.base, s.muted, 0.35));
+    p.setColor(QPalette::Disabled, QPalette::Highlight, blend(s.base, s.off, 0.35));
     p.setColor(QPalette::Disabled, QPalette::HighlightedText, s.text);
     return p;
 }
@@ -48,7 +49,8 @@ QPalette lightPalette() {
                       .alternate = {0xf4, 0xf8, 0xf6},
                       .button = {0xf0, 0xf2, 0xf1},
                       .text = {0x26, 0x2c, 0x38},
-                      .muted = {0x8a, 0x91, 0x9b},
+                      .muted = {0x66, 0x6d, 0x77},
+                      .off = {0x8a, 0x91, 0x9b},
                       .highlight = {0x26, 0x79, 0x4f},
                       .link = {0x1f, 0x6b, 0x45}});
 }
@@ -59,7 +61,8 @@ QPalette darkPalette() {
                       .alternate = {0x26, 0x29, 0x2c},
                       .button = {0x36, 0x39, 0x3e},
                       .text = {0xe6, 0xe9, 0xec},
-                      .muted = {0x80, 0x86, 0x8e},
+                      .muted = {0xa0, 0xa6, 0xae},
+                      .off = {0x80, 0x86, 0x8e},
                       .highlight = {0x26, 0x79, 0x4f},
                       .link = {0x6f, 0xcf, 0x9f}});
 }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "ui/style/theme.h"
+#include "ui/support/contrast.h"
 #include "ui/support/screenTest.h"
 
 #include <QApplication>
@@ -15,11 +16,12 @@
 #include <QtTest/QTest>
 
 #include <algorithm>
-#include <cmath>
 #include <vector>
 
 namespace boulix {
 namespace {
+
+using testing_support::contrast;
 
 class ThemeTest : public ScreenTest {
   protected:
@@ -38,20 +40,6 @@ class ThemeTest : public ScreenTest {
     }
 };
 
-/// The contrast of two colours after WCAG 2: 1 for the same, 21 for black on white.
-double contrast(const QColor &one, const QColor &other) {
-    const auto channel = [](double v) {
-        return v <= 0.04045 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4);
-    };
-    const auto luminance = [&](const QColor &c) {
-        return 0.2126 * channel(c.redF()) + 0.7152 * channel(c.greenF()) +
-               0.0722 * channel(c.blueF());
-    };
-    const double a = luminance(one) + 0.05;
-    const double b = luminance(other) + 0.05;
-    return std::max(a, b) / std::min(a, b);
-}
-
 TEST(Theme, TextsCanBeReadInBothPalettes) {
     for (const QPalette &palette : {theme::lightPalette(), theme::darkPalette()}) {
         const auto colour = [&](QPalette::ColorRole role) {
@@ -60,6 +48,8 @@ TEST(Theme, TextsCanBeReadInBothPalettes) {
         for (const auto ground : {QPalette::Window, QPalette::Base, QPalette::AlternateBase,
                                   QPalette::Button, QPalette::ToolTipBase}) {
             EXPECT_GE(contrast(colour(QPalette::Text), colour(ground)), 7) << "role " << ground;
+            EXPECT_GE(contrast(colour(QPalette::PlaceholderText), colour(ground)), 4.5)
+                << "role " << ground;
             EXPECT_GE(contrast(palette.color(QPalette::Disabled, QPalette::Text), colour(ground)),
                       2.7)
                 << "role " << ground;
