@@ -7,6 +7,7 @@
 #include "ui/style/iconLoader.h"
 #include "ui/style/programStyle.h"
 #include "ui/style/theme.h"
+#include "ui/widgets/accessibility.h"
 
 #include <QLibraryInfo>
 #include <QLocale>
@@ -20,6 +21,7 @@ Application::Application(int &argc, char **argv) : QApplication(argc, argv) {
         QLocale::setDefault(QLocale(QLocale::French, QLocale::France));
     speakFrench();
     ProgramStyle::dress();
+    installAccessibility();
     setWindowIcon(logoIcon());
 }
 

@@ -60,17 +60,22 @@ void frmSelDate::makeCalendar() {
     QPalette days = mvwDate->palette();
     days.setColor(QPalette::Disabled, QPalette::Text, days.color(QPalette::PlaceholderText));
     mvwDate->setPalette(days);
-    giveArrow(QStringLiteral("qt_calendar_prevmonth"), QStringLiteral("previous"));
-    giveArrow(QStringLiteral("qt_calendar_nextmonth"), QStringLiteral("next"));
+    mvwDate->setAccessibleName(QStringLiteral("Date du tirage"));
+    if (auto *grid = mvwDate->findChild<QWidget *>(QStringLiteral("qt_calendar_calendarview")))
+        grid->setAccessibleName(QStringLiteral("Jours du mois"));
+    giveArrow(QStringLiteral("prevmonth"), QStringLiteral("previous"),
+              QStringLiteral("Mois précédent"));
+    giveArrow(QStringLiteral("nextmonth"), QStringLiteral("next"), QStringLiteral("Mois suivant"));
     const int cell = fontMetrics().height() * 9 / 4;
     mvwDate->setMinimumSize(8 * cell, 8 * cell);
 }
 
 /// The buttons of Qt's calendar stand on the highlight colour; they get the family's arrows.
-void frmSelDate::giveArrow(const QString &button, const QString &icon) {
-    auto *arrow = mvwDate->findChild<QToolButton *>(button);
+void frmSelDate::giveArrow(const QString &button, const QString &icon, const QString &name) {
+    auto *arrow = mvwDate->findChild<QToolButton *>(QStringLiteral("qt_calendar_") + button);
     if (!arrow)
         return;
+    arrow->setAccessibleName(name);
     const QSize size(20, 20);
     arrow->setIcon(loadIcon(icon).pixmap(size, devicePixelRatioF(), QIcon::Selected));
     arrow->setIconSize(size);

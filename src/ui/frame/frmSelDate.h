@@ -36,7 +36,7 @@ class frmSelDate : public QDialog {
     void makeCalendar();
     QLayout *makeOwnDate();
     void takeOwnDate();
-    void giveArrow(const QString &button, const QString &icon);
+    void giveArrow(const QString &button, const QString &icon, const QString &name);
     void layOut();
     void confirm();
 

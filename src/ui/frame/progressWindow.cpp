@@ -27,8 +27,9 @@ constexpr int barSteps = 1000; // finer than any bar is wide
 ProgressWindow::ProgressWindow(frmProgress &progress, QWidget *parent)
     : QWidget(parent, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint),
       progress_(progress), lblInfo(new QLabel(this)),
-      ProgressBar2(makeBar(QStringLiteral("ProgressBar2"))),
-      ProgressBar(makeBar(QStringLiteral("ProgressBar"))),
+      ProgressBar2(
+          makeBar(QStringLiteral("ProgressBar2"), QStringLiteral("Avancement des étapes"))),
+      ProgressBar(makeBar(QStringLiteral("ProgressBar"), QStringLiteral("Avancement"))),
       cmdCancel(new QPushButton(QStringLiteral("&Annuler"), this)) {
     setObjectName(QStringLiteral("frmProgress"));
     lblInfo->setObjectName(QStringLiteral("lblInfo"));
@@ -51,8 +52,9 @@ ProgressWindow::ProgressWindow(frmProgress &progress, QWidget *parent)
     refresh();
 }
 
-QProgressBar *ProgressWindow::makeBar(const QString &name) {
+QProgressBar *ProgressWindow::makeBar(const QString &name, const QString &meaning) {
     auto *bar = new QProgressBar(this);
+    bar->setAccessibleName(meaning);
     bar->setObjectName(name);
     bar->setRange(0, barSteps);
     return bar;

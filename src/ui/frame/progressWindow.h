@@ -31,7 +31,7 @@ class ProgressWindow : public QWidget {
     void keyPressEvent(QKeyEvent *event) override;
 
   private:
-    QProgressBar *makeBar(const QString &name);
+    QProgressBar *makeBar(const QString &name, const QString &meaning);
     static void showBar(QProgressBar &bar, const progressBar &state);
     void cancel();
 

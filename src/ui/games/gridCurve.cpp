@@ -4,17 +4,30 @@
 #include "ui/games/gridCurve.h"
 
 #include "ui/style/theme.h"
+#include "ui/widgets/accessibility.h"
 
 #include <QPainter>
 
 #include <algorithm>
+#include <cmath>
 
 namespace boulix {
 
 GridCurve::GridCurve(const frmOptimiser &rules, QWidget *parent) : QWidget(parent), rules_(rules) {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-    setAccessibleName(QStringLiteral("Nombre de grilles au fil du temps"));
     setToolTip(QStringLiteral("Nombre de grilles au fil du temps"));
+    refresh();
+}
+
+void GridCurve::refresh() {
+    QString course = QStringLiteral("Pas encore de recherche.");
+    if (!rules_.curve().empty())
+        course = QStringLiteral("De %1 à %2 grilles en %3 s.")
+                     .arg(rules_.curve().front().grids)
+                     .arg(rules_.curve().back().grids)
+                     .arg(std::lround(rules_.curve().back().seconds));
+    describeChart(*this, toolTip(), course);
+    update();
 }
 
 /// The time axis grows by steps of ten seconds.

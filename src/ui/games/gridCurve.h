@@ -17,6 +17,9 @@ class GridCurve : public QWidget {
     /// Draws the curve of `rules`, which must live longer than the widget.
     explicit GridCurve(const frmOptimiser &rules, QWidget *parent = nullptr);
 
+    /// Shows the curve as it is by now.
+    void refresh();
+
     QSize sizeHint() const override { return {380, 150}; }
     QSize minimumSizeHint() const override { return {200, 110}; }
 

@@ -144,7 +144,7 @@ void OptimiserDialog::refresh() {
                                        text);
     }
     lblState->setText(toQt(rules_.lblState));
-    curve_->update();
+    curve_->refresh();
     cmbGuarantee->setCurrentIndex(rules_.guarantee());
     cmbGuarantee->setEnabled(!rules_.running());
     cmdStart->setText(rules_.curve().empty() ? QStringLiteral("&Démarrer")

@@ -100,6 +100,8 @@ QWidget *GridPreviewDialog::makeRange() {
     form->setSpacing(theme::gap);
     form->addRow(QStringLiteral("Première &grille"), updnBeg);
     form->addRow(QStringLiteral("&Dernière grille"), updnEnd);
+    updnBeg->findChild<QLineEdit *>()->setAccessibleName(QStringLiteral("Première grille"));
+    updnEnd->findChild<QLineEdit *>()->setAccessibleName(QStringLiteral("Dernière grille"));
     return frame;
 }
 

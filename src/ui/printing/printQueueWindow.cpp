@@ -31,6 +31,7 @@ PrintQueueWindow::PrintQueueWindow(PrintQueue &queue)
     auto *bar = new QProgressBar(this);
     bar->setRange(0, 0); // nobody knows how long
     bar->setTextVisible(false);
+    bar->setAccessibleName(QStringLiteral("Impression en cours"));
     connect(cmdGiveUp, &QPushButton::clicked, &queue_, &PrintQueue::giveUpCurrent);
     connect(cmdStay, &QPushButton::clicked, this, &PrintQueueWindow::staying);
     connect(&queue_, &PrintQueue::changed, this, &PrintQueueWindow::refresh);

@@ -82,6 +82,8 @@ QWidget *DrawAnalysisTab::makeBalls() {
     for (std::size_t k = 0; k < lblNumTir.size(); ++k) {
         lblNumTir[k] = new NumberBall(row);
         lblNumTir[k]->setObjectName(QStringLiteral("lblNumTir_%1").arg(k));
+        lblNumTir[k]->setAccessibleName(k == 0 ? QStringLiteral("Complémentaire")
+                                               : QStringLiteral("Numéro"));
         lblNumTir[k]->setToolTip(
             k == 0 ? QStringLiteral("Numéro complémentaire : cliquez pour le sélectionner")
                    : QStringLiteral("Cliquez pour sélectionner ce numéro"));

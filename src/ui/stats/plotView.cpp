@@ -9,6 +9,7 @@
 #include "stats/plotPane.h"
 #include "stats/statMeasure.h"
 #include "ui/style/theme.h"
+#include "ui/widgets/accessibility.h"
 #include "ui/widgets/qtText.h"
 
 #include <QAction>
@@ -68,7 +69,6 @@ void saveBytes(const std::string &name, const QByteArray &bytes) {
 PlotView::PlotView(PlotPane &pane, QWidget *parent)
     : QWidget(parent), pane_(pane), plot_(new QCustomPlot(this)) {
     setObjectName(QStringLiteral("PlotPane"));
-    setAccessibleName(QStringLiteral("Courbe de la statistique"));
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(plot_);
@@ -122,6 +122,20 @@ void PlotView::redraw() {
     drawExpected();
     drawing_ = false;
     plot_->replot(QCustomPlot::rpQueuedReplot);
+    describeChart(*this, QStringLiteral("Courbe de la statistique"), description());
+}
+
+/// What a screen reader reads in place of the drawing: what is drawn, and between which values.
+QString PlotView::description() const {
+    if (pane_.curves().empty() || pane_.curves().front().y.empty())
+        return QStringLiteral("Aucune courbe");
+    const std::vector<double> &y = pane_.curves().front().y;
+    const auto [least, most] = std::minmax_element(y.begin(), y.end());
+    return QStringLiteral("%1 selon %2 : %3 points, de %4 à %5")
+        .arg(toQt(pane_.yTitle()), toQt(pane_.xTitle()))
+        .arg(y.size())
+        .arg(*least)
+        .arg(*most);
 }
 
 void PlotView::drawAxes() {

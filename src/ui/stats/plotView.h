@@ -35,6 +35,7 @@ class PlotView : public QWidget {
 
   private:
     void dress();
+    QString description() const;
     void redraw();
     void drawAxes();
     void drawCurves();

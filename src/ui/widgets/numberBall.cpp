@@ -5,6 +5,7 @@
 
 #include "ui/style/theme.h"
 
+#include <QAccessible>
 #include <QPainter>
 
 #include <algorithm>
@@ -19,10 +20,19 @@ NumberBall::NumberBall(QWidget *parent) : QAbstractButton(parent), ground_(Qt::l
 void NumberBall::show(const QString &number, const QColor &ground, bool marked) {
     setText(number);
     ground_ = ground;
-    marked_ = marked;
-    setAccessibleDescription(marked ? QStringLiteral("sélectionné")
-                                    : QStringLiteral("non sélectionné"));
+    if (marked != marked_) {
+        marked_ = marked;
+        QAccessible::State checked;
+        checked.checked = true;
+        QAccessibleStateChangeEvent told(this, checked);
+        QAccessible::updateAccessibility(&told);
+    }
     update();
+}
+
+void NumberBall::onlyShow() {
+    setFocusPolicy(Qt::NoFocus);
+    setAttribute(Qt::WA_TransparentForMouseEvents);
 }
 
 QSize NumberBall::sizeHint() const {

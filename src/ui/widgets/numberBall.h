@@ -16,6 +16,10 @@ class NumberBall : public QAbstractButton {
     explicit NumberBall(QWidget *parent = nullptr);
 
     void show(const QString &number, const QColor &ground, bool marked);
+    /// A ball that only shows takes no clicks and no focus.
+    void onlyShow();
+    bool takesClicks() const { return focusPolicy() != Qt::NoFocus; }
+    bool isMarked() const { return marked_; }
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }

@@ -6,12 +6,14 @@
 #include "sill/numberBoard.h"
 #include "ui/widgets/numberBoardPainter.h"
 
+#include <QAccessible>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStringList>
 
 #include <algorithm>
+#include <utility>
 
 namespace boulix {
 
@@ -92,6 +94,10 @@ void NumberBoardView::mousePressEvent(QMouseEvent *event) {
         event->ignore();
         return;
     }
+    pick(n);
+}
+
+void NumberBoardView::pick(std::int16_t n) {
     moveTo(n);
     board_.click(n);
 }
@@ -160,17 +166,50 @@ void NumberBoardView::moveTo(int number) {
     if (number < 1 || number > NumberBoard::lastNumber || number == current_)
         return;
     current_ = static_cast<std::int16_t>(number);
-    boardChanged();
+    tellCurrent();
+    update();
+}
+
+void NumberBoardView::focusInEvent(QFocusEvent *event) {
+    QWidget::focusInEvent(event);
+    tellCurrent();
 }
 
 void NumberBoardView::boardChanged() {
     // A closed board is still worth reading with the keyboard, but a click gives it no focus.
     setFocusPolicy(board_.editable() ? Qt::StrongFocus : Qt::TabFocus);
     setAccessibleDescription(describe());
+    tellMarks();
     update();
 }
 
-/// What a screen reader says: the current number, and the marked ones in their order.
+/// A screen reader goes to the number that the keyboard has reached.
+void NumberBoardView::tellCurrent() {
+    if (!hasFocus())
+        return;
+    QAccessibleEvent told(this, QAccessible::Focus);
+    told.setChild(current_ - 1);
+    QAccessible::updateAccessibility(&told);
+}
+
+/// A screen reader hears which numbers are marked or unmarked now.
+void NumberBoardView::tellMarks() {
+    std::uint64_t marks = 0;
+    for (std::int16_t n = 1; n <= NumberBoard::lastNumber; ++n)
+        marks |= std::uint64_t{board_.isSelected(n)} << n;
+    const std::uint64_t before = std::exchange(toldMarks_, marks);
+    for (std::int16_t n = 1; n <= NumberBoard::lastNumber; ++n) {
+        if (((before ^ marks) >> n & 1U) == 0)
+            continue;
+        QAccessible::State checked;
+        checked.checked = true;
+        QAccessibleStateChangeEvent told(this, checked);
+        told.setChild(n - 1);
+        QAccessible::updateAccessibility(&told);
+    }
+}
+
+/// What a screen reader says of the whole board: the marked numbers in their order.
 QString NumberBoardView::describe() const {
     QStringList marked;
     for (std::int16_t i = 1; i <= board_.selectedCount(); ++i) {
@@ -180,9 +219,7 @@ QString NumberBoardView::describe() const {
     }
     const QString all =
         marked.isEmpty() ? QStringLiteral("aucun") : marked.join(QStringLiteral(", "));
-    return QStringLiteral("%1%2. Numéros marqués : %3.")
-        .arg(QString::number(current_),
-             board_.isSelected(current_) ? QStringLiteral(" marqué") : QString(), all);
+    return QStringLiteral("Numéros marqués : %1.").arg(all);
 }
 
 } // namespace boulix

@@ -33,6 +33,9 @@ class NumberBoardView : public QWidget {
     QRectF boxOf(std::int16_t n) const;
     /// The number that the keyboard acts on.
     std::int16_t currentNumber() const { return current_; }
+    const NumberBoard &board() const { return board_; }
+    /// As if the user clicked number `n`.
+    void pick(std::int16_t n);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -47,9 +50,12 @@ class NumberBoardView : public QWidget {
     void mouseMoveEvent(QMouseEvent *event) override;
     void leaveEvent(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
 
   private:
     void boardChanged();
+    void tellMarks();
+    void tellCurrent();
     void moveTo(int number);
     void typeDigit(int digit);
     void hover(std::int16_t number);
@@ -60,6 +66,7 @@ class NumberBoardView : public QWidget {
     std::int16_t current_ = 1;
     std::int16_t hovered_ = 0;
     int typed_ = 0;
+    std::uint64_t toldMarks_ = 0; ///< what a screen reader knows, a bit for each number
     QElapsedTimer sinceDigit_;
 };
 

@@ -10,6 +10,7 @@
 #include "ui/widgets/reportCopy.h"
 #include "ui/widgets/reportListModel.h"
 
+#include <QAccessible>
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
@@ -336,14 +337,23 @@ void ReportView::toggleCheck(const QModelIndex &index) {
     model_->setData(mark, int(on ? Qt::Unchecked : Qt::Checked), Qt::CheckStateRole);
 }
 
-/// What a screen reader says of the row that the keyboard has reached.
+void ReportView::pick(int row) {
+    setFocus(Qt::OtherFocusReason);
+    const auto whole = QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows;
+    selectionModel()->setCurrentIndex(model_->index(row, 0), whole);
+    emit rowClicked(row + 1);
+    emit rowsPicked();
+}
+
+/// A screen reader goes to the row that the keyboard has reached: to its first cell, behind the
+/// headers and the rows above.
 void ReportView::currentChanged(const QModelIndex &current, const QModelIndex &previous) {
     QAbstractItemView::currentChanged(current, previous);
-    QStringList cells;
-    for (int column = 0; current.isValid() && column < headers_.size(); ++column)
-        cells << headers_[column] + QLatin1Char(' ') +
-                     model_->index(current.row(), column).data().toString();
-    setAccessibleDescription(cells.join(QStringLiteral(", ")));
+    if (!current.isValid() || !hasFocus() || !QAccessible::isActive())
+        return;
+    QAccessibleEvent told(this, QAccessible::Focus);
+    told.setChild((current.row() + 1) * model_->columnCount());
+    QAccessible::updateAccessibility(&told);
 }
 
 void ReportView::keyPressEvent(QKeyEvent *event) {

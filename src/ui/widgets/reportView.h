@@ -41,6 +41,10 @@ class ReportView : public QAbstractItemView {
     /// The width at which all columns and the scroll bar have their room.
     int fullWidth() const;
     int rowHeight() const { return rowHeight_; }
+    /// As if the user clicked the row, counted from 0.
+    void pick(int row);
+    /// Turns the check mark of a row on or off, whichever of its columns is meant.
+    void toggleCheck(const QModelIndex &index);
 
     QRect visualRect(const QModelIndex &index) const override;
     QModelIndex indexAt(const QPoint &point) const override;
@@ -93,7 +97,6 @@ class ReportView : public QAbstractItemView {
     QColor textColor(const QStyleOptionViewItem &option) const;
     void paintText(QPainter &painter, const QStyleOptionViewItem &option,
                    const QModelIndex &index) const;
-    void toggleCheck(const QModelIndex &index);
     int rowCount() const;
     int rowAt(int y) const;
     int fullyVisibleRows() const;

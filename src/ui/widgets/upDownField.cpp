@@ -10,7 +10,9 @@
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QLineEdit>
+#include <QRegularExpression>
 #include <QSignalBlocker>
 
 namespace boulix {
@@ -48,6 +50,17 @@ void UpDownField::refresh(const QString &text) {
             : QString());
     if (!box_->isModified()) // what is being typed is not written over
         box_->setText(text);
+}
+
+void UpDownField::showEvent(QShowEvent *event) {
+    QWidget::showEvent(event);
+    static const QRegularExpression mnemonic(QStringLiteral("&(?=.)"));
+    for (const QLabel *label : parentWidget()->findChildren<QLabel *>())
+        if (label->buddy() == this) {
+            const QString name = label->text().remove(mnemonic);
+            box_->setAccessibleName(name);
+            arrows_->setAccessibleName(name);
+        }
 }
 
 bool UpDownField::eventFilter(QObject *watched, QEvent *event) {

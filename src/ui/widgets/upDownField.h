@@ -13,7 +13,8 @@ class UpDownView;
 class upDown;
 
 /// A text box with the arrows of an up-down control. The arrows step at once; what is typed is
-/// handed over when the focus leaves the box, Return is pressed or a command is given.
+/// handed over when the focus leaves the box, Return is pressed or a command is given. A screen
+/// reader calls both parts by the label whose buddy the field is.
 class UpDownField : public QWidget {
     Q_OBJECT
 
@@ -32,6 +33,7 @@ class UpDownField : public QWidget {
 
   protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
+    void showEvent(QShowEvent *event) override;
 
   private:
     upDown &control_;

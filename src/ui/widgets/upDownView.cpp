@@ -3,6 +3,7 @@
 
 #include "ui/widgets/upDownView.h"
 
+#include <QAccessible>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPainter>
@@ -33,6 +34,7 @@ QToolButton *UpDownView::makeArrow(Qt::ArrowType arrow, int by) {
     button->setAutoRepeat(true);
     button->setFocusPolicy(Qt::NoFocus);
     button->setFixedSize(side * 3 / 2, side);
+    button->setAccessibleName(by > 0 ? QStringLiteral("Augmenter") : QStringLiteral("Diminuer"));
     connect(button, &QToolButton::clicked, this, [this, by] { step(by); });
     return button;
 }
@@ -62,6 +64,8 @@ void UpDownView::setValue(int value) {
         return;
     value_ = inside;
     refresh();
+    QAccessibleValueChangeEvent told(this, value_);
+    QAccessible::updateAccessibility(&told);
     emit valueChanged(value_);
 }
 

@@ -19,12 +19,17 @@ class UpDownView : public QWidget {
     explicit UpDownView(QWidget *parent = nullptr);
 
     int value() const { return value_; }
+    int first() const { return first_; }
+    int last() const { return last_; }
     void setRange(int first, int last);
     void setValue(int value);
     /// The label that shows the value from now on.
     void setBuddy(QLabel *label);
     /// Without limits and without a value of its own: the arrows only tell their steps.
     void setEndless();
+    bool isEndless() const { return endless_; }
+    /// As if the user clicked the arrow up (1) or down (-1).
+    void step(int by);
 
   signals:
     void valueChanged(int value);
@@ -37,7 +42,6 @@ class UpDownView : public QWidget {
 
   private:
     QToolButton *makeArrow(Qt::ArrowType arrow, int by);
-    void step(int by);
     void refresh();
 
     QToolButton *up_;

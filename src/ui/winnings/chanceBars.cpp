@@ -5,6 +5,7 @@
 
 #include "core/frenchNumbers.h"
 #include "ui/style/theme.h"
+#include "ui/widgets/accessibility.h"
 #include "ui/widgets/qtText.h"
 
 #include <QHelpEvent>
@@ -46,9 +47,9 @@ QString sentences(const ChanceBars::Bars &bars) {
 ChanceBars::ChanceBars(Bars bars, QWidget *parent)
     : QWidget(parent), bars_(std::move(bars)), powers_(powersBelow(bars_)) {
     setObjectName(QStringLiteral("chanceBars"));
-    setAccessibleName(
-        QStringLiteral("Chance d'au moins chaque rang, sur une échelle logarithmique"));
-    setAccessibleDescription(sentences(bars_));
+    describeChart(*this,
+                  QStringLiteral("Chance d'au moins chaque rang, sur une échelle logarithmique"),
+                  sentences(bars_));
 }
 
 QSize ChanceBars::sizeHint() const {

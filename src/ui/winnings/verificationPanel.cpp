@@ -72,9 +72,10 @@ QWidget *VerificationPanel::makeNumbers() {
     layout->setSpacing(theme::gap / 2);
     for (std::size_t i = 0; i < numbers_.size(); ++i) {
         numbers_[i] = new NumberBall(row);
-        numbers_[i]->setFocusPolicy(Qt::NoFocus); // these balls only show
-        numbers_[i]->setAttribute(Qt::WA_TransparentForMouseEvents);
+        numbers_[i]->onlyShow();
         const bool drawn = i + 1 < numbers_.size();
+        numbers_[i]->setAccessibleName(drawn ? QStringLiteral("Numéro")
+                                             : QStringLiteral("Complémentaire"));
         numbers_[i]->setObjectName(drawn ? QStringLiteral("lblVerifNum_%1").arg(i)
                                          : QStringLiteral("lblVerifCompl"));
         if (!drawn)
