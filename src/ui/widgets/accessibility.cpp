@@ -5,8 +5,10 @@
 
 #include "ui/widgets/accessibleBall.h"
 #include "ui/widgets/accessibleBoard.h"
+#include "ui/widgets/accessibleEmptyPlace.h"
 #include "ui/widgets/accessibleList.h"
 #include "ui/widgets/accessibleUpDown.h"
+#include "ui/widgets/emptyPlaceView.h"
 #include "ui/widgets/numberBall.h"
 #include "ui/widgets/numberBoardView.h"
 #include "ui/widgets/reportView.h"
@@ -31,6 +33,8 @@ QAccessibleInterface *interfaceOf(const QString &, QObject *object) {
         return new AccessibleUpDown(*arrows);
     if (auto *ball = qobject_cast<NumberBall *>(object))
         return new AccessibleBall(*ball);
+    if (auto *place = qobject_cast<EmptyPlaceView *>(object))
+        return new AccessibleEmptyPlace(*place);
     if (auto *control = qobject_cast<QWidget *>(object);
         control && control->property(chartMark).isValid())
         return new QAccessibleWidget(control, QAccessible::Chart);

@@ -4,6 +4,7 @@
 #include "ui/widgets/accessibleList.h"
 
 #include "ui/widgets/accessibleListPart.h"
+#include "ui/widgets/emptyPlaceView.h"
 #include "ui/widgets/reportView.h"
 
 #include <QHeaderView>
@@ -67,8 +68,16 @@ QAccessible::State AccessibleList::state() const {
     return state;
 }
 
+/// The sentence of an empty list, nothing where none is shown.
+QAccessibleInterface *AccessibleList::emptyPlace() const {
+    auto *sentence = view().viewport()->findChild<EmptyPlaceView *>();
+    const bool shown = sentence && !sentence->isHidden();
+    return shown ? QAccessible::queryAccessibleInterface(sentence) : nullptr;
+}
+
 int AccessibleList::childCount() const {
-    const std::int64_t all = (std::int64_t{rowCount()} + 1) * columnCount();
+    const std::int64_t all =
+        (std::int64_t{rowCount()} + 1) * columnCount() + (emptyPlace() ? 1 : 0);
     return static_cast<int>(std::min<std::int64_t>(all, std::numeric_limits<int>::max()));
 }
 
@@ -76,10 +85,14 @@ QAccessibleInterface *AccessibleList::child(int index) const {
     if (index < 0 || index >= childCount())
         return nullptr;
     const int columns = columnCount();
+    if (rowCount() == 0 && index == columns)
+        return emptyPlace();
     return kept(index / columns + headerRow, index % columns);
 }
 
 int AccessibleList::indexOfChild(const QAccessibleInterface *child) const {
+    if (child && child == emptyPlace())
+        return columnCount();
     const auto *part = dynamic_cast<const AccessibleListPart *>(child);
     if (!part || part->parent() != this)
         return -1;

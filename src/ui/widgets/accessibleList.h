@@ -16,7 +16,8 @@ namespace boulix {
 class ReportView;
 
 /// A list in report view as a screen reader sees it: a table with column headers and cells. Its
-/// children are the headers, then the cells row by row. A cell is made when it is asked for and
+/// children are the headers, then the cells row by row; in an empty one, the sentence that stands
+/// in it. A cell is made when it is asked for and
 /// only the last few thousand are kept, so that a list of millions of rows can be read to its end.
 class AccessibleList : public QAccessibleWidget, public QAccessibleTableInterface {
   public:
@@ -65,6 +66,7 @@ class AccessibleList : public QAccessibleWidget, public QAccessibleTableInterfac
     ReportView &view() const;
     QAccessibleInterface *kept(int row, int column) const;
     void forgetAll() const;
+    QAccessibleInterface *emptyPlace() const;
 
     mutable QHash<std::int64_t, QAccessible::Id> ids_; ///< by child index
     mutable std::deque<std::int64_t> oldestFirst_;

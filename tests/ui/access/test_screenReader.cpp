@@ -286,6 +286,25 @@ TEST_F(LongList, ACellTellsWhatStandsAtItsPlaceByNow) {
     EXPECT_TRUE(cell->actionInterface()->actionNames().isEmpty());
 }
 
+TEST_F(LongList, ReadsTheSentenceOfAnEmptyListAndFollowsItsLink) {
+    int followed = 0;
+    list.clear();
+    list.whenEmpty({"Aucun tirage.", "Importer un historique", [&followed] { ++followed; }});
+    QAccessibleInterface &seenList = seen(*view);
+    ASSERT_EQ(seenList.childCount(), 4);
+    QAccessibleInterface *place = seenList.child(3);
+    EXPECT_EQ(place->role(), QAccessible::Link);
+    EXPECT_EQ(nameOf(*place), "Aucun tirage. Importer un historique");
+    EXPECT_EQ(seenList.indexOfChild(place), 3);
+    place->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_EQ(followed, 1);
+    list.whenEmpty({"Choisissez un type."});
+    EXPECT_EQ(seenList.child(3)->role(), QAccessible::StaticText);
+    EXPECT_TRUE(seenList.child(3)->actionInterface()->actionNames().isEmpty());
+    list.rows(1, [](std::int64_t, int) { return std::string("un"); });
+    EXPECT_EQ(seenList.childCount(), 6);
+}
+
 class BoardForAScreenReader : public ::testing::Test {
   protected:
     BoardForAScreenReader() {
