@@ -7,7 +7,9 @@
 #include "core/text.h"
 #include "printing/gridConfig.h"
 #include "printing/settingValue.h"
+#include "sill/desktop.h"
 #include "sill/reports.h"
+#include "sill/typedField.h"
 
 namespace boulix {
 
@@ -22,10 +24,12 @@ void frmGridParam::clickOK() {
     }
     if (trimmed(txtPrice).empty())
         return;
-    const float price = typedNumber(txtPrice);
+    const float price =
+        readField({"txtPrice", "Prix d'une grille", priceHolds}, txtPrice, typedNumber);
     gGridConfig->monneyUnit(unit);
     gGridConfig->price(price);
     gGridConfig->save();
+    desktop().announce("Prix d'une grille : " + plainDecimal(price) + " " + unit);
     closed_ = true;
 }
 

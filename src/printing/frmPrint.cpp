@@ -8,6 +8,7 @@
 #include "printing/printerSystem.h"
 #include "printing/settingValue.h"
 #include "sill/reports.h"
+#include "sill/typedField.h"
 
 #include <algorithm>
 
@@ -17,6 +18,8 @@ frmPrint::frmPrint()
     : cmbPrinter(printerSystem().printers()), txtOffsetX(plainDecimal(modPrinter::offset_X)),
       txtOffsetY(plainDecimal(modPrinter::offset_Y)), optPrintDir(modPrinter::direction),
       cmdOKEnabled(!cmbPrinter.empty()) {
+    if (modPrinter::currentPrinter() == modPrinter::pdfEntry && cmdOKEnabled)
+        cmbPrinterIndex = static_cast<int>(cmbPrinter.size());
     const auto current =
         std::find(cmbPrinter.begin(), cmbPrinter.end(), modPrinter::currentPrinter());
     if (current != cmbPrinter.end())
@@ -26,8 +29,10 @@ frmPrint::frmPrint()
 }
 
 void frmPrint::clickOK() {
-    const float x = typedNumber(txtOffsetX);
-    const float y = typedNumber(txtOffsetY);
+    const float x =
+        readField({"txtOffsetX", "Décalage horizontal (mm)", offsetHolds}, txtOffsetX, typedNumber);
+    const float y =
+        readField({"txtOffsetY", "Décalage vertical (mm)", offsetHolds}, txtOffsetY, typedNumber);
     modPrinter::offset_X = x;
     modPrinter::offset_Y = y;
     modPrinter::direction = optPrintDir;

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <cstdint>
+#include <iterator>
 #include <string>
 #include <vector>
 
@@ -21,18 +22,26 @@ class frmPrint {
     frmPrint();
 
     std::vector<std::string> cmbPrinter; ///< the device names of all printers
-    int cmbPrinterIndex = -1;            ///< the entry chosen, from 0; -1 for none
+    /// The entry chosen, from 0; -1 for none. Behind the printers, where there are any, the list
+    /// shows `modPrinter::pdfEntry`.
+    int cmbPrinterIndex = -1;
     std::string txtOffsetX;
     std::string txtOffsetY;
     std::int32_t optPrintDir; ///< the direction whose option is on
     bool cmdOKEnabled;
 
+    /// What an offset may hold, for its box.
+    static constexpr const char *offsetHolds = "un nombre de millimètres, négatif ou non";
+
     /// `cmdOK`: takes offsets and direction into the settings state. An offset that is no number
-    /// fails with `Failure::typeMismatch`; nothing is taken then and the window stays.
+    /// fails with `Failure::typeMismatch`, a failure of its box; nothing is taken then and the
+    /// window stays.
     void clickOK();
     /// `cmdCancel`.
     void clickCancel();
 
+    /// Whether documents are to go into PDF files.
+    bool pdfChosen() const { return cmdOKEnabled && cmbPrinterIndex == std::ssize(cmbPrinter); }
     /// 1 after `cmdOK`, else 0.
     std::int16_t result() const { return result_; }
     bool closed() const { return closed_; }

@@ -100,6 +100,10 @@ void frmPrintGridPreview::clickToolbar(int button) {
     case 5:
         modPrinter::printerDialog();
         break;
+    case 6:
+        asPdf_ = true;
+        hide(1);
+        break;
     default:
         break;
     }

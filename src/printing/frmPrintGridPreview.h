@@ -46,7 +46,8 @@ class frmPrintGridPreview {
     void clickWeek(std::size_t index);
     void clickPlayJoker(bool plays);
     void clickWedAndSat(bool both);
-    /// A button of `tbarPrint`: 1 back, 2 forth, 3 print, 4 cancel, 5 printer settings.
+    /// A button of `tbarPrint`: 1 back, 2 forth, 3 print, 4 cancel, 5 printer settings, 6
+    /// print into a PDF file.
     void clickToolbar(int button);
 
     /// Draws the slip on show on `picGrid`.
@@ -54,6 +55,8 @@ class frmPrintGridPreview {
 
     /// 1 when the user asked for printing, else 0.
     std::int32_t answer() const { return answer_; }
+    /// Whether the slips are to go into a PDF file, whatever the printer settings say.
+    bool asPdf() const { return asPdf_; }
     bool hidden() const { return hidden_; }
     slipRun::Choice choice() const;
 
@@ -77,6 +80,7 @@ class frmPrintGridPreview {
     std::int32_t slips_ = 0;
     std::int32_t page_ = 1;
     std::int32_t answer_ = 0;
+    bool asPdf_ = false;
     bool hidden_ = false;
 };
 

@@ -7,14 +7,19 @@
 #include "core/modMaths.h"
 #include "core/settings.h"
 #include "core/text.h"
+#include "files/modFileSelector.h"
+#include "files/xFile.h"
 #include "printing/frmPrint.h"
 #include "printing/printerSystem.h"
 #include "printing/settingValue.h"
 #include "sill/appInfo.h"
+#include "sill/desktop.h"
 #include "sill/reports.h"
 
 #include <algorithm>
 #include <optional>
+#include <string_view>
+#include <utility>
 
 namespace boulix::modPrinter {
 
@@ -38,12 +43,17 @@ constexpr double sheetMiddle = 105;
 std::optional<std::string> savedPrinter;
 std::string chosenPrinter; // empty: the system's default
 
+/// What is announced when the document under way ends.
+std::string arrival;
+
 bool sameDevice(const std::string &a, const std::string &b) {
     return upperCased(trimmed(a)) == upperCased(trimmed(b));
 }
 
 /// The first printer of the system with the saved name; empty where there is none.
 std::string findSavedPrinter() {
+    if (sameDevice(pdfEntry, *savedPrinter))
+        return pdfEntry;
     for (const std::string &name : printerSystem().printers())
         if (sameDevice(name, *savedPrinter))
             return name;
@@ -59,6 +69,31 @@ void loadDirection() {
     else
         reportNumbered(2302, std::string("Erreur de syntaxe dans le fichier boulix.ini:") + crlf +
                                  word + " valeur innatendue!!!");
+}
+
+void announceArrival() {
+    desktop().announce(arrival);
+}
+
+/// `title` without what no file name may hold.
+std::string asFileName(std::string title) {
+    for (char &c : title)
+        if (std::string_view("/\\:*?\"<>|").find(c) != std::string_view::npos)
+            c = '-';
+    return title;
+}
+
+std::unique_ptr<Paper> openPdf(const std::string &title) {
+    const std::string fullName = modFileSelector::saveDialog(
+        "Document PDF (*.pdf)|*.pdf", "Enregistrement en PDF", asFileName(title) + ".pdf");
+    if (fullName.empty())
+        return nullptr;
+    xFile file;
+    file.fullName(fullName);
+    if (!modFileSelector::mayReplace(file, gAppInfo->name()))
+        return nullptr;
+    arrival = "Document enregistré dans " + file.name();
+    return printerSystem().openPdf(fullName, "Boulix - " + title);
 }
 
 /// How many characters `text` (UTF-8) has.
@@ -97,7 +132,9 @@ void printerDialog() {
     printWindows().runPrint(window);
     if (window.result() == 0)
         return;
-    if (window.cmbPrinterIndex >= 0)
+    if (window.pdfChosen())
+        currentPrinter(pdfEntry);
+    else if (window.cmbPrinterIndex >= 0)
         currentPrinter(window.cmbPrinter.at(static_cast<std::size_t>(window.cmbPrinterIndex)));
     settings::write(section, printerKey, currentPrinter());
     settings::write(section, offsetXKey, plainDecimal(offset_X));
@@ -114,8 +151,26 @@ std::int16_t printerCheck() {
     return -1;
 }
 
-std::unique_ptr<Paper> openDocument(const std::string &title, Sides sides) {
-    return printerSystem().openDocument(currentPrinter(), "Boulix - " + title, sides);
+std::optional<Outlet> chooseOutlet() {
+    if (printerCheck() == 0)
+        return Outlet::asSet;
+    const bool wanted =
+        desktop().askYesNo("Voulez-vous enregistrer le document dans un fichier PDF ?",
+                           Icon::question, gAppInfo->name());
+    return wanted ? std::optional(Outlet::pdf) : std::nullopt;
+}
+
+std::unique_ptr<Paper> openDocument(const std::string &title, Sides sides, Outlet outlet) {
+    const std::string printer = outlet == Outlet::pdf ? pdfEntry : currentPrinter();
+    if (printer == pdfEntry)
+        return openPdf(title);
+    arrival = "Document « " + title + " » remis à l'imprimante " + printer;
+    return printerSystem().openDocument(printer, "Boulix - " + title, sides);
+}
+
+void endDocument(Paper &paper) {
+    paper.endDocument();
+    announceArrival();
 }
 
 void printBanner(TextReport &report) {
@@ -131,17 +186,24 @@ void printBanner(TextReport &report) {
 }
 
 std::optional<TextReport> startReport(const std::string &title) {
-    if (printerCheck() != 0)
+    const auto outlet = chooseOutlet();
+    if (!outlet)
         return std::nullopt;
-    TextReport report(openDocument(title, Sides::asPrinterIsSet));
+    auto paper = openDocument(title, Sides::asPrinterIsSet, *outlet);
+    if (!paper)
+        return std::nullopt;
+    TextReport report(std::move(paper), announceArrival);
     printBanner(report);
     return report;
 }
 
 void printCanvas() {
-    if (printerCheck() != 0)
+    const auto outlet = chooseOutlet();
+    if (!outlet)
         return;
-    const auto paper = openDocument("canevas", Sides::one);
+    const auto paper = openDocument("canevas", Sides::one, *outlet);
+    if (!paper)
+        return;
     const std::string hint = "Haut de la grille ici";
     paper->color(black);
     paper->penWidth(2);
@@ -153,7 +215,7 @@ void printCanvas() {
                     hint);
         paper->box(x, y, x + slipWidth, y + slipHeight);
     }
-    paper->endDocument();
+    endDocument(*paper);
 }
 
 } // namespace boulix::modPrinter

@@ -26,6 +26,12 @@ struct CanvasSlot {
 };
 inline constexpr std::array<CanvasSlot, 2> canvasSlots = {{{25, 20}, {25, 150}}};
 
+/// Stands behind the printers in the list of the printer settings: documents go into PDF files.
+inline constexpr const char *pdfEntry = "Enregistrer en PDF...";
+
+/// Where a document goes: as the printer settings say, or into a PDF file whatever they say.
+enum class Outlet { asSet, pdf };
+
 /// The shift of all slip marks, in millimetres.
 inline float offset_X = 0;
 inline float offset_Y = 0;
@@ -33,7 +39,7 @@ inline float offset_Y = 0;
 inline std::int32_t direction = directionUp;
 
 /// The printer that is printed on: the one chosen, else the system's default, else the first one;
-/// empty where no printer is installed.
+/// empty where no printer is installed. `pdfEntry` where PDF files were chosen.
 std::string currentPrinter();
 /// Chooses a printer by its device name; empty for the system's default.
 void currentPrinter(const std::string &deviceName);
@@ -50,13 +56,21 @@ void printerDialog();
 /// no printer, else 0.
 std::int16_t printerCheck();
 
-/// Opens a document on the current printer. The print queue shows the program's name and `title`.
-std::unique_ptr<Paper> openDocument(const std::string &title, Sides sides);
+/// The printer check, and behind its message the offer of a PDF file in place of paper; nothing
+/// when the user does not want one.
+std::optional<Outlet> chooseOutlet();
+
+/// Opens a document, whose name in the print queue is that of the program and `title`. On its way
+/// into a PDF file the user is asked for the file: nothing when he names none.
+std::unique_ptr<Paper> openDocument(const std::string &title, Sides sides, Outlet outlet);
+
+/// Ends the document that was opened last, and announces where it went.
+void endDocument(Paper &paper);
 
 /// The head of a text report: the application's name between two lines of stars.
 void printBanner(TextReport &report);
 
-/// Printer check, document and banner of a text report in one; nothing when there is no printer.
+/// Outlet, document and banner of a text report in one; nothing when there is none to print on.
 std::optional<TextReport> startReport(const std::string &title);
 
 /// Prints the canvas: the two slip outlines on which the user lays real slips.

@@ -30,6 +30,11 @@ class PrinterSystem {
     /// A printer that is not there any more fails with `Failure::printerError`.
     virtual std::unique_ptr<Paper> openDocument(const std::string &printer,
                                                 const std::string &title, Sides sides) = 0;
+    /// Opens a document on sheets of A4 that becomes the PDF file `fileName` when it ends, in place
+    /// of an earlier one. A file that cannot be written is a failure of the end; the earlier one
+    /// stays then.
+    virtual std::unique_ptr<Paper> openPdf(const std::string &fileName,
+                                           const std::string &title) = 0;
     /// For the end of the program: waits until the ended documents are out of the house. False
     /// when the program must stay: a document was refused, or the user wants to. At once true
     /// where `Paper::endDocument` already waits.

@@ -52,17 +52,23 @@ void printSlips(Paper &paper, const Choice &choice, Sheets sheets, const GridDra
         if (sheets == Sheets::canvas && k % 2 == 0)
             paper.newPage();
     }
-    paper.endDocument();
+    modPrinter::endDocument(paper);
 }
 
 void run(std::int32_t count, Sheets sheets, const GridDrawer &drawGrid) {
-    if (count < 1 || modPrinter::printerCheck() != 0)
+    if (count < 1)
+        return;
+    const auto outlet = modPrinter::chooseOutlet();
+    if (!outlet)
         return;
     frmPrintGridPreview window(count, drawGrid);
     printWindows().runGridPreview(window);
     if (window.answer() == 0)
         return;
-    const auto paper = modPrinter::openDocument("grilles", Sides::one);
+    const auto paper = modPrinter::openDocument("grilles", Sides::one,
+                                                window.asPdf() ? modPrinter::Outlet::pdf : *outlet);
+    if (!paper)
+        return;
     printSlips(*paper, window.choice(), sheets, drawGrid);
 }
 

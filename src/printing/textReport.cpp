@@ -19,7 +19,8 @@ std::size_t nextCharacter(const std::string &text, std::size_t start) {
 
 } // namespace
 
-TextReport::TextReport(std::unique_ptr<Paper> paper) : paper_(std::move(paper)) {
+TextReport::TextReport(std::unique_ptr<Paper> paper, std::function<void()> ended)
+    : paper_(std::move(paper)), ended_(std::move(ended)) {
     paper_->font(fontName_, fontSize_);
 }
 
@@ -86,6 +87,12 @@ std::size_t TextReport::fittingLength(const std::string &text, double width) con
             wordEnd = end;
     }
     return wordEnd > 0 ? wordEnd : fits;
+}
+
+void TextReport::end() {
+    paper_->endDocument();
+    if (ended_)
+        ended_();
 }
 
 } // namespace boulix

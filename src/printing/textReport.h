@@ -5,6 +5,7 @@
 
 #include "printing/canvas.h"
 
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -21,7 +22,8 @@ class TextReport {
     /// The white edge on all four sides, in millimetres.
     static constexpr double margin = 10;
 
-    explicit TextReport(std::unique_ptr<Paper> paper);
+    /// `ended` is called when the report is on its way.
+    explicit TextReport(std::unique_ptr<Paper> paper, std::function<void()> ended = {});
 
     /// The font of the lines to come; name or size alone keeps the other. Arial of size 10 at
     /// the start.
@@ -36,8 +38,8 @@ class TextReport {
     /// millimetres to the right of it.
     void line(const std::string &label, double column, const std::string &value);
 
-    /// Sends the report to the printer.
-    void end() { paper_->endDocument(); }
+    /// Sends the report on its way.
+    void end();
 
   private:
     void reserveLine();
@@ -45,6 +47,7 @@ class TextReport {
     std::size_t fittingLength(const std::string &text, double width) const;
 
     std::unique_ptr<Paper> paper_;
+    std::function<void()> ended_;
     std::string fontName_ = "Arial";
     double fontSize_ = 10;
     double y_ = margin;

@@ -167,6 +167,7 @@ TEST_F(DrawPrinting, SetsTheDrawsInAFontOfEightPoints) {
 
 TEST_F(DrawPrinting, WithoutAPrinterPrintsNothing) {
     printers.names.clear();
+    desktop.answerNo();
     add(draws[0]);
     gDbCombs->PrintDB();
     EXPECT_EQ(desktop.messages,

@@ -170,6 +170,7 @@ TEST_F(GamePrintTest, TheListNumbersTheGridsUnderTheDate) {
 
 TEST_F(GamePrintTest, WithoutAPrinterTheListIsNotPrinted) {
     printers.names.clear();
+    desktop.answerNo();
     fill({{1, 2, 3, 4, 5, 6}});
     grids.PrintGameList();
     EXPECT_TRUE(printers.documents.empty());

@@ -122,6 +122,7 @@ TEST_F(GameDefTest, ASystemWithoutAFileIsPrintedWithoutAFileName) {
 
 TEST_F(GameDefTest, WithoutAPrinterNothingIsPrinted) {
     printers.names.clear();
+    desktop.answerNo();
     def.printDef();
     EXPECT_TRUE(printers.documents.empty());
     EXPECT_EQ(desktop.messages.size(), 1U);

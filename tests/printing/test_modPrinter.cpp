@@ -157,6 +157,7 @@ TEST_F(ModPrinterTest, TheNameIsCentredRoundedDown) {
 
 TEST_F(ModPrinterTest, WithoutAPrinterNoReportIsStarted) {
     printers.names.clear();
+    desktop.answerNo();
     EXPECT_FALSE(modPrinter::startReport("essai"));
     EXPECT_EQ(desktop.messages.size(), 1U);
     EXPECT_TRUE(printers.documents.empty());
@@ -195,6 +196,7 @@ TEST_F(ModPrinterTest, TheCanvasIsTwoBoxesWithAHintAtTheirTop) {
 
 TEST_F(ModPrinterTest, WithoutAPrinterThereIsNoCanvas) {
     printers.names.clear();
+    desktop.answerNo();
     modPrinter::printCanvas();
     EXPECT_EQ(desktop.messages.size(), 1U);
     EXPECT_TRUE(printers.documents.empty());

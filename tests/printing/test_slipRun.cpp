@@ -174,6 +174,7 @@ TEST_F(SlipRunTest, ACancelledPreviewPrintsNothing) {
 
 TEST_F(SlipRunTest, WithoutAPrinterThePreviewIsNotEvenShown) {
     printers.names.clear();
+    desktop.answerNo();
     slipRun::run(20, Sheets::slips, drawer());
     EXPECT_EQ(printWindows.previewShowings, 0);
     ASSERT_EQ(desktop.messages.size(), 1U);

@@ -397,6 +397,7 @@ TEST_F(StatReport, ThePaperShowsTheStoresAsTheyStandUnderTheLabelsOfTheMoment) {
 
 TEST_F(StatReport, WithoutAPrinterTheMessageComesAndNothingIsPrinted) {
     printers.names.clear();
+    desktop.answerNo();
     computeAll(1, 0);
     modStats::PrintStats(1, 0, 1, 4, chooser);
     ASSERT_EQ(desktop.messages.size(), 1U);

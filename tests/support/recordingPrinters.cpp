@@ -58,4 +58,13 @@ std::unique_ptr<Paper> RecordingPrinters::openDocument(const std::string &printe
     return std::make_unique<RecordingPaper>(document, *this);
 }
 
+std::unique_ptr<Paper> RecordingPrinters::openPdf(const std::string &fileName,
+                                                  const std::string &title) {
+    PrintedDocument &document = documents.emplace_back();
+    document.pdfFile = fileName;
+    document.title = title;
+    document.metrics = metrics;
+    return std::make_unique<RecordingPaper>(document, *this);
+}
+
 } // namespace boulix::testing_support

@@ -15,6 +15,7 @@ namespace boulix::testing_support {
 /// A document as it was printed, or as far as it came.
 struct PrintedDocument : Recording {
     std::string printer;
+    std::string pdfFile; ///< where it went in place of a printer
     std::string title;
     Sides sides = Sides::asPrinterIsSet;
     int pages = 1;
@@ -47,6 +48,7 @@ class RecordingPrinters : public PrinterSystem {
     std::string defaultPrinter() const override { return standard; }
     std::unique_ptr<Paper> openDocument(const std::string &printer, const std::string &title,
                                         Sides sides) override;
+    std::unique_ptr<Paper> openPdf(const std::string &fileName, const std::string &title) override;
     bool finishDocuments() override {
         ++finishings;
         return mayFinish;

@@ -3,6 +3,7 @@
 
 #include "tour/pdfPrinters.h"
 
+#include "ui/printing/pdfFile.h"
 #include "ui/printing/pdfPaper.h"
 
 namespace boulix {
@@ -12,6 +13,10 @@ std::unique_ptr<Paper> PdfPrinters::openDocument(const std::string &, const std:
     return std::make_unique<PdfPaper>(
         QPageSize(QPageSize::A4), title,
         [this](std::unique_ptr<QTemporaryFile> file) { printed(file->fileName()); });
+}
+
+std::unique_ptr<Paper> PdfPrinters::openPdf(const std::string &fileName, const std::string &title) {
+    return openPdfFile(fileName, title);
 }
 
 } // namespace boulix

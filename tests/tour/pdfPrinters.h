@@ -21,6 +21,7 @@ class PdfPrinters : public PrinterSystem {
     std::string defaultPrinter() const override { return "Imprimante PDF"; }
     std::unique_ptr<Paper> openDocument(const std::string &printer, const std::string &title,
                                         Sides sides) override;
+    std::unique_ptr<Paper> openPdf(const std::string &fileName, const std::string &title) override;
 };
 
 } // namespace boulix

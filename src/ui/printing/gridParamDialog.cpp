@@ -22,6 +22,9 @@ GridParamDialog::GridParamDialog(frmGridParam &rules, QWidget *parent)
     setWindowTitle(QString::fromUtf8(frmGridParam::caption));
     txtUnit->setObjectName(QStringLiteral("txtUnit"));
     txtPrice->setObjectName(QStringLiteral("txtPrice"));
+    txtUnit->setToolTip(QStringLiteral("Le nom de la monnaie, au singulier"));
+    txtPrice->setToolTip(QString::fromUtf8(frmGridParam::priceHolds));
+    txtPrice->setPlaceholderText(QStringLiteral("0.6"));
     layOut();
 }
 

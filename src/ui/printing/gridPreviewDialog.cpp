@@ -73,6 +73,10 @@ QWidget *GridPreviewDialog::makeToolbar() {
          QStringLiteral("Paramètres d'impression"),
          QStringLiteral("printer"),
          {}},
+        {QStringLiteral("P&DF"),
+         QStringLiteral("Enregistrer les bulletins dans un fichier PDF"),
+         QStringLiteral("save"),
+         {}},
     };
     return boulix::makeToolbar(
         QStringLiteral("tbarPrint"), buttons,

@@ -4,6 +4,7 @@
 #include "ui/printing/printDialog.h"
 
 #include "printing/frmPrint.h"
+#include "printing/modPrinter.h"
 #include "sill/reports.h"
 #include "ui/style/theme.h"
 #include "ui/widgets/qtText.h"
@@ -41,7 +42,8 @@ PrintDialog::PrintDialog(frmPrint &rules, QWidget *parent)
 QLineEdit *PrintDialog::makeOffset(const QString &name, const std::string &value) {
     auto *box = new QLineEdit(toQt(value), this);
     box->setObjectName(name);
-    box->setToolTip(QStringLiteral("En millimètres"));
+    box->setToolTip(QString::fromUtf8(frmPrint::offsetHolds));
+    box->setPlaceholderText(QStringLiteral("0"));
     box->setMaximumWidth(fontMetrics().averageCharWidth() * 14);
     return box;
 }
@@ -52,6 +54,8 @@ QWidget *PrintDialog::makePrinterRow() {
     cmbPrinter->setMinimumContentsLength(28);
     for (const std::string &printer : rules_.cmbPrinter)
         cmbPrinter->addItem(toQt(printer));
+    if (!rules_.cmbPrinter.empty())
+        cmbPrinter->addItem(QString::fromUtf8(modPrinter::pdfEntry));
     cmbPrinter->setCurrentIndex(rules_.cmbPrinterIndex);
 
     auto *row = new QWidget(this);

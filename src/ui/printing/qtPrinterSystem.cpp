@@ -4,6 +4,7 @@
 #include "ui/printing/qtPrinterSystem.h"
 
 #include "core/failure.h"
+#include "ui/printing/pdfFile.h"
 #include "ui/printing/pdfPaper.h"
 #include "ui/printing/printQueue.h"
 #include "ui/widgets/qtText.h"
@@ -45,6 +46,11 @@ std::unique_ptr<Paper> QtPrinterSystem::openDocument(const std::string &printer,
         sheet, title, [this, printer, title, options](std::unique_ptr<QTemporaryFile> file) {
             queue_->add({std::move(file), toQt(printer), toQt(title), options});
         });
+}
+
+std::unique_ptr<Paper> QtPrinterSystem::openPdf(const std::string &fileName,
+                                                const std::string &title) {
+    return openPdfFile(fileName, title);
 }
 
 bool QtPrinterSystem::finishDocuments() {

@@ -23,6 +23,7 @@ class QtPrinterSystem : public PrinterSystem {
     /// neither get lost nor come out by halves.
     std::unique_ptr<Paper> openDocument(const std::string &printer, const std::string &title,
                                         Sides sides) override;
+    std::unique_ptr<Paper> openPdf(const std::string &fileName, const std::string &title) override;
     bool finishDocuments() override;
 
   private:

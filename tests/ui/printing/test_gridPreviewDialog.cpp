@@ -176,7 +176,7 @@ TEST_F(GridPreviewTest, EveryControlSaysWhatItIs) {
             labels << label->text().remove(QLatin1Char('&'));
         EXPECT_TRUE(labels.contains(QStringLiteral("Première grille")));
         EXPECT_TRUE(labels.contains(QStringLiteral("Dernière grille")));
-        EXPECT_EQ(control<QToolBar>(dialog, "tbarPrint").actions().size(), 5);
+        EXPECT_EQ(control<QToolBar>(dialog, "tbarPrint").actions().size(), 6);
         dialog.close();
     });
 }

@@ -152,6 +152,8 @@ TEST_F(SettingsWindowsTest, WithoutAPrinterTheWindowSaysSoAndCanOnlyBeLeft) {
     robot.box("Impossible d'imprimer, aucune imprimante est installée sur votre ordinateur!\nou "
               "l'imprimante est mal configurée.",
               "boulix: Erreur N° 2301", QMessageBox::Information);
+    robot.box("Voulez-vous enregistrer le document dans un fichier PDF ?", "boulix",
+              QMessageBox::Question, QMessageBox::No);
     pick("mnuPrintCanvas");
     EXPECT_TRUE(printers.documents.empty());
 }
