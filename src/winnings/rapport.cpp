@@ -116,6 +116,7 @@ void rapport::save(const std::string &fileName) const {
         image.write(slot++, record);
     }
     replaceFile(file.fullName(), image.bytes());
+    desktop().announce("Rapports enregistrés dans " + file.name());
 }
 
 } // namespace boulix

@@ -8,8 +8,11 @@
 #include "core/text.h"
 #include "draws/dbCombs.h"
 #include "files/modFileSelector.h"
+#include "files/xFile.h"
 #include "forecasts/pronostics.h"
+#include "sill/desktop.h"
 #include "sill/reports.h"
+#include "sill/typedField.h"
 #include "workbench/frmTestProno.h"
 
 #include <algorithm>
@@ -23,6 +26,12 @@ constexpr const char *fileFilter = "Fichier de pronostique Boulix (*.pro)|*.pro"
 /// How many rules have boxes: a file can hold more of them, or fewer.
 int shownRules() {
     return std::min(gPronostics->Count(), forecastPage::ruleCount);
+}
+
+std::string bareName(const std::string &fullName) {
+    xFile file;
+    file.fullName(fullName);
+    return file.name();
 }
 
 std::size_t place(int rule) {
@@ -80,6 +89,11 @@ void forecastPage::load() {
     if (name.empty())
         return;
     gPronostics->load(name);
+    if (gPronostics->Count() == 0)
+        desktop().announce("Il n'y a plus de règles : chargez un autre fichier .pro, ou relancez "
+                           "Boulix pour retrouver celles du départ");
+    else
+        desktop().announce("Pronostique chargé de " + bareName(name));
     for (int rule = 1; rule <= shownRules(); ++rule) {
         const pronos &loaded = gPronostics->Item(rule);
         if (loaded.enableN())
@@ -91,12 +105,14 @@ void forecastPage::load() {
 }
 
 void forecastPage::save() {
-    const std::string name = modFileSelector::saveDialog(fileFilter, "Sauvegarde du pronostique");
+    const std::string name =
+        modFileSelector::saveDialog(fileFilter, "Sauvegarde du pronostique", "pronostique.pro");
     if (name.empty())
         return;
     for (int rule = 1; rule <= shownRules(); ++rule)
         takeBoxes(rule);
     gPronostics->save(name);
+    desktop().announce("Pronostique enregistré dans " + bareName(name));
 }
 
 void forecastPage::compute() {
@@ -104,18 +120,33 @@ void forecastPage::compute() {
         takeBoxes(rule);
     for (pronos &rule : *gPronostics)
         rule.baseTir(narrow16(gDbCombs->Count()));
-    if (gPronostics->compute(true))
-        showPoints();
+    if (!gPronostics->compute(true))
+        return;
+    showPoints();
+    desktop().announce("Points calculés pour les 49 numéros");
 }
 
-/// What stands in the boxes of a rule becomes its parameters; an empty box or a word is 0.
+/// What stands in the boxes of a rule becomes its parameters, and the boxes show what was taken: an
+/// empty box or a word is 0.
 void forecastPage::takeBoxes(int rule) {
     pronos &taken = gPronostics->Item(rule);
-    if (taken.enableN())
-        taken.n(toInt16(numericPrefix(txtN[place(rule)])));
-    if (taken.enableP())
-        taken.p(toInt16(numericPrefix(txtP[place(rule)])));
-    taken.nPoint(toInt32(numericPrefix(txtPoints[place(rule)])));
+    const std::string end = "_" + std::to_string(rule - 1);
+    const std::string ofRule = ", règle " + std::to_string(rule);
+    const auto as16 = [](const std::string &text) { return toInt16(numericPrefix(text)); };
+    const auto as32 = [](const std::string &text) { return toInt32(numericPrefix(text)); };
+    std::string &n = txtN[place(rule)];
+    std::string &p = txtP[place(rule)];
+    std::string &points = txtPoints[place(rule)];
+    if (taken.enableN()) {
+        taken.n(readField({"txtN" + end, "N" + ofRule, countHolds}, n, as16));
+        n = std::to_string(taken.n());
+    }
+    if (taken.enableP()) {
+        taken.p(readField({"txtP" + end, "P" + ofRule, countHolds}, p, as16));
+        p = std::to_string(taken.p());
+    }
+    taken.nPoint(readField({"txtPoints" + end, "Points" + ofRule, pointsHold}, points, as32));
+    points = std::to_string(taken.nPoint());
 }
 
 void forecastPage::showPoints() {

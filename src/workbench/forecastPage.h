@@ -34,6 +34,9 @@ class forecastPage {
     enum Button { loadRules = 1, saveRules, computePoints, testOnPast };
 
     static constexpr int ruleCount = 4;
+    /// What the boxes may hold.
+    static constexpr const char *countHolds = "un nombre entier de 1 à 32767";
+    static constexpr const char *pointsHold = "un nombre entier de 1 à 2147483647";
     /// The texts of one rule's controls, by rule.
     using RuleTexts = std::array<std::string, ruleCount>;
 

@@ -11,13 +11,16 @@
 
 namespace boulix {
 
-frmWinDate::frmWinDate(const std::vector<gameWin> &wins) {
+frmWinDate::frmWinDate(const std::vector<gameWin> &wins, bool upToDate) {
     std::vector<ReportColumn> columns = {{"Date", "000000000000", false}, {"N°", "0000", true}};
     for (int i = 1; i <= lotoComb::size; ++i)
         columns.push_back({zeroPadded(i, 4), "0000", true});
     columns.push_back({"C", "0000000", true});
     columns.push_back({"Gains", "0000000000", true});
     lvwWinDate.columns(std::move(columns));
+    lvwWinDate.whenEmpty({upToDate ? "Le jeu n'a gagné à ce rang dans aucun tirage de la base."
+                                   : "Des tirages ont changé depuis la vérification : relancez "
+                                     "« Tirages de la base »."});
     for (const gameWin &win : wins) {
         const dbComb &draw = gDbCombs->Item(win.idbcomb());
         const auto number = [&draw](int i) { return std::to_string(draw.comb().num(i)); };

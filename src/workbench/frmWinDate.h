@@ -19,8 +19,9 @@ class frmWinDate {
     static constexpr const char *caption = "Date des gains";
 
     /// One line for each of `wins`, in base order. A draw that is no longer in the base, or whose
-    /// date cannot be shown, is a run-time failure: the window does not open.
-    explicit frmWinDate(const std::vector<gameWin> &wins);
+    /// date cannot be shown, is a run-time failure: the window does not open. `upToDate`: the wins
+    /// were looked for in the base as it is now; where they were not, an empty list says so.
+    explicit frmWinDate(const std::vector<gameWin> &wins, bool upToDate = true);
     frmWinDate(const frmWinDate &) = delete;
     frmWinDate &operator=(const frmWinDate &) = delete;
 

@@ -3,6 +3,8 @@
 
 #include "workbench/winningsPage.h"
 
+#include "core/failure.h"
+#include "core/frenchNumbers.h"
 #include "core/globals.h"
 #include "core/numbers.h"
 #include "core/platform.h"
@@ -16,12 +18,16 @@
 #include "sill/appInfo.h"
 #include "sill/desktop.h"
 #include "sill/reports.h"
+#include "sill/typedField.h"
+#include "winnings/balance.h"
 #include "winnings/chances.h"
 #include "winnings/gameResult.h"
 #include "winnings/money.h"
 #include "winnings/rapport.h"
 #include "workbench/frmChances.h"
 #include "workbench/frmWinDate.h"
+
+#include <cmath>
 
 namespace boulix {
 
@@ -42,6 +48,19 @@ class Busy {
     bool &busy_;
     progressBar &bar_;
 };
+
+bool isNumber(const std::string &text) {
+    try {
+        wholeNumberText(text);
+        return true;
+    } catch (const RuntimeFailure &) {
+        return false;
+    }
+}
+
+std::string counted(std::int64_t count, const char *one, const char *many) {
+    return groupedNumber(static_cast<std::uint64_t>(count)) + " " + (count < 2 ? one : many);
+}
 
 std::size_t place(std::int16_t rank) {
     return static_cast<std::size_t>(rank - 1);
@@ -119,9 +138,15 @@ void winningsPage::clickSubTab(int index) {
 /// The amounts in the boxes become those of the prize table; behind an empty box the amount stays.
 void winningsPage::takeBoxes() {
     for (std::int16_t i = 0; i < ranks; ++i) {
-        const std::string &text = txtRapPrice[static_cast<std::size_t>(i)];
-        if (!trimmed(text).empty())
-            gRapport->Value(i, moneyText(text));
+        std::string &text = txtRapPrice[static_cast<std::size_t>(i)];
+        if (trimmed(text).empty())
+            continue;
+        const TypedField field{"txtRapPrice_" + std::to_string(i), gRapport->label(i),
+                               "un montant, avec ou sans décimales"};
+        gRapport->Value(
+            i, readField(field, text, [](const std::string &typed) { return moneyText(typed); }));
+        if (!isNumber(text)) // a word has counted as 0, and what follows a number as nothing
+            text = plainDecimal(gRapport->Value(i));
     }
 }
 
@@ -151,7 +176,8 @@ void winningsPage::checkOverBase() {
     refresh();
     const gameResult result = gDbCombs->VerifyGame(*currentGame, pgrScanDB, wins_, winsCount_);
     datesKnown_ = true;
-    showCheck(result);
+    checkedBase_ = BaseMark(*gDbCombs);
+    showCheck(result, gDbCombs->Count());
 }
 
 void winningsPage::checkOverRandomDraws() {
@@ -163,7 +189,7 @@ void winningsPage::checkOverRandomDraws() {
     const Busy running(busy_, pgrScanDB);
     refresh();
     const auto count = narrow16(std::ssize(randomDraws));
-    showCheck(currentGame->verifyCombList(randomDraws, count, pgrScanDB));
+    showCheck(currentGame->verifyCombList(randomDraws, count, pgrScanDB), count);
     datesKnown_ = false; // random draws have no dates
 }
 
@@ -192,16 +218,19 @@ void winningsPage::clickRapp(int index) {
 
 void winningsPage::runRapp(int index) {
     if (index == loadTable) {
-        if (gRapport->load())
+        if (gRapport->load()) {
             showPrizes();
+            desktop().announce("Rapports chargés");
+        }
         return;
     }
     takeBoxes();
     if (index == saveDefault)
         return gRapport->save(platform().applicationFolder() + pathSeparator +
                               rapport::defaultName);
-    const std::string name = modFileSelector::saveDialog("Fichier de rapport Boulix (*.rap)|*.rap",
-                                                         "Sauvegarde d'un fichier de rapport");
+    const std::string name =
+        modFileSelector::saveDialog("Fichier de rapport Boulix (*.rap)|*.rap",
+                                    "Sauvegarde d'un fichier de rapport", "rapports.rap");
     if (!name.empty())
         gRapport->save(name);
 }
@@ -212,7 +241,9 @@ void winningsPage::clickPerfDate(int index) {
     runCommand([&] {
         const auto rank = static_cast<std::size_t>(checkedIndex(index, 0, ranks - 1) + 1);
         const auto first = wins_[rank].begin() + 1;
-        frmWinDate window({first, first + winsCount_[rank]});
+        // The wins are known by the places of their draws: in another base those are others.
+        const bool baseStands = checkedBase_.stillIn(*gDbCombs);
+        frmWinDate window({first, first + (baseStands ? winsCount_[rank] : 0)}, baseStands);
         if (view_)
             view_->runWinDate(window);
     });
@@ -220,9 +251,23 @@ void winningsPage::clickPerfDate(int index) {
 
 /// The user may have gone to another sub-tab while the check was under way: the labels are no
 /// longer this one's then.
-void winningsPage::showCheck(const gameResult &result) {
-    if (subTab_ == performance)
-        showRanks(result);
+void winningsPage::showCheck(const gameResult &result, std::int64_t draws) {
+    if (subTab_ != performance)
+        return;
+    showRanks(result);
+    showBalance(result, draws);
+}
+
+void winningsPage::showBalance(const gameResult &result, std::int64_t draws) {
+    const std::string &unit = gGridConfig->monneyUnit();
+    const std::int64_t grids = currentGame->Count();
+    const Balance balance = balanceOf(result, grids, draws, gGridConfig->price());
+    const std::string sign = balance.rest() > 0 ? "+" : balance.rest() < 0 ? "−" : "";
+    lblPerfSum = amountWithUnit(balance.won, unit);
+    lblPerfStake = amountWithUnit(balance.stake, unit);
+    lblPerfBalance = sign + amountWithUnit(std::abs(balance.rest()), unit);
+    desktop().announce(counted(grids, "grille vérifiée", "grilles vérifiées") + " sur " +
+                       counted(draws, "tirage", "tirages"));
 }
 
 void winningsPage::showRanks(const gameResult &result) {
@@ -236,6 +281,9 @@ void winningsPage::blankResults() {
     lblVerComb.fill({});
     lblVerPrice.fill({});
     lblVerWinTot.clear();
+    lblPerfSum.clear();
+    lblPerfStake.clear();
+    lblPerfBalance.clear();
 }
 
 void winningsPage::refresh() const {

@@ -5,6 +5,7 @@
 
 #include "sill/frmProgress.h"
 #include "sill/upDown.h"
+#include "winnings/baseMark.h"
 #include "winnings/gameWin.h"
 
 #include <array>
@@ -56,6 +57,11 @@ class winningsPage {
     RankTexts lblVerComb;
     RankTexts lblVerPrice;
     std::string lblVerWinTot;
+    /// Below the ranks of the performance tab: what was won in all, what the game has cost, and the
+    /// rest. Empty as long as no check has filled them.
+    std::string lblPerfSum;
+    std::string lblPerfStake;
+    std::string lblPerfBalance;
     upDown updVerifComb; ///< the position of the draw being verified
     std::string txtVerifComb;
     std::string lblVerifComb;
@@ -100,7 +106,8 @@ class winningsPage {
     void tellChances();
     void runRapp(int index);
     void takeBoxes();
-    void showCheck(const gameResult &result);
+    void showCheck(const gameResult &result, std::int64_t draws);
+    void showBalance(const gameResult &result, std::int64_t draws);
     void showRanks(const gameResult &result);
     void blankResults();
     void refresh() const;
@@ -113,6 +120,7 @@ class winningsPage {
     bool busy_ = false;
     std::vector<std::vector<gameWin>> wins_; // of the last check over the base
     std::vector<std::int32_t> winsCount_;
+    BaseMark checkedBase_; ///< the base that those wins stand in
 };
 
 } // namespace boulix

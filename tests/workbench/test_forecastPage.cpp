@@ -147,6 +147,7 @@ TEST_F(ForecastPage, AnEmptyBoxCountsAsZeroAndTheRuleIsRefused) {
                             "boulix: Erreur N° " + std::to_string(row.number)}));
         EXPECT_EQ(points(1), "");
     }
+    EXPECT_EQ(page.txtPoints[2], "0") << "the box says what it counted as";
 }
 
 TEST_F(ForecastPage, ASpanBeforeTheFirstDrawEndsTheCommandAndTheListStays) {
@@ -177,7 +178,40 @@ TEST_F(ForecastPage, AParameterBeyondSixteenBitsIsAnOverflow) {
         click(forecastPage::computePoints);
         ASSERT_EQ(desktop.messages.size(), 1U) << text;
         EXPECT_EQ(desktop.messages[0].title, "Boulix Erreur système N° 6") << text;
+        EXPECT_NE(desktop.messages[0].text.find(std::string("« N, règle 1 » attend un nombre "
+                                                            "entier de 1 à 32767 ; il y avait « ") +
+                                                text),
+                  std::string::npos)
+            << desktop.messages[0].text;
+        EXPECT_EQ(desktop.focusedFields.back(), "txtN_0");
+        EXPECT_EQ(page.txtN[0], text) << "what was refused stays to be mended";
     }
+}
+
+TEST_F(ForecastPage, SaysWhatItDid) {
+    addDraws();
+    fillBoxes("2");
+    click(forecastPage::computePoints);
+    desktop.answerSave(file("regles.pro"));
+    click(forecastPage::saveRules);
+    desktop.answerOpen(file("regles.pro"));
+    click(forecastPage::loadRules);
+    EXPECT_EQ(desktop.announcements,
+              (std::vector<std::string>{"Points calculés pour les 49 numéros",
+                                        "Pronostique enregistré dans regles.pro",
+                                        "Pronostique chargé de regles.pro"}));
+    EXPECT_EQ(desktop.saveQuestions[0].name, "pronostique.pro");
+}
+
+TEST_F(ForecastPage, AFileWhoseHeaderIsRefusedTellsThatTheRulesAreGoneAndHowToGetThemBack) {
+    writeBytes(file("autre.pro"), std::string(2000, 'x'));
+    desktop.answerOpen(file("autre.pro"));
+    click(forecastPage::loadRules);
+    EXPECT_EQ(gPronostics->Count(), 0);
+    EXPECT_FALSE(desktop.messages.empty()) << "the header's own message comes first";
+    EXPECT_EQ(desktop.announcements,
+              (std::vector<std::string>{"Il n'y a plus de règles : chargez un autre fichier .pro, "
+                                        "ou relancez Boulix pour retrouver celles du départ"}));
 }
 
 TEST_F(ForecastPage, SavesTheBoxesAndLoadsThemBack) {

@@ -5,6 +5,8 @@
 
 #include "winningsPageTest.h"
 
+#include "printing/gridConfig.h"
+
 namespace boulix {
 namespace {
 
@@ -59,14 +61,80 @@ TEST_F(PerformancePage, TheListOfDatesHasTenColumns) {
     }
 }
 
-TEST_F(PerformancePage, ADateThatLeftTheBaseIsAFailureAndTheWindowStaysClosed) {
+TEST_F(PerformancePage, AfterDrawsHaveGoneThereAreNoDatesRatherThanWrongOnes) {
     page.clickSubTab(winningsPage::performance);
     page.clickPerfo(winningsPage::checkBase);
     gDbCombs->clear();
-    onWinDate = [](frmWinDate &) { ADD_FAILURE() << "the window opened"; };
+    addDraw({31, 32, 33, 34, 35, 36, 37});
+    addDraw({1, 2, 3, 44, 45, 46, 47});
+    page.followBase();
+    EXPECT_TRUE(page.cmdPerfDateEnabled());
+    int opened = 0;
+    onWinDate = [&opened](frmWinDate &window) {
+        ++opened;
+        EXPECT_EQ(window.lvwWinDate.rowCount(), 0);
+        EXPECT_EQ(window.lvwWinDate.whenEmpty().sentence,
+                  "Des tirages ont changé depuis la vérification : relancez « Tirages de la "
+                  "base ».");
+    };
     page.clickPerfDate(4);
-    ASSERT_EQ(desktop.messages.size(), 1U);
-    EXPECT_EQ(desktop.messages[0].title, "Boulix Erreur système N° 9");
+    page.clickPerfo(winningsPage::checkBase);
+    onWinDate = [&opened](frmWinDate &window) {
+        ++opened;
+        EXPECT_EQ(window.lvwWinDate.rowCount(), 1);
+    };
+    page.clickPerfDate(4);
+    EXPECT_EQ(opened, 2);
+    EXPECT_TRUE(desktop.messages.empty());
+}
+
+TEST_F(PerformancePage, ADrawThatWasChangedHasNoDateUnderItsOldNumbers) {
+    page.clickPerfo(winningsPage::checkBase);
+    gDbCombs->Item(3).comb().num(1, 20);
+    onWinDate = [](frmWinDate &window) { EXPECT_EQ(window.lvwWinDate.rowCount(), 0); };
+    page.clickPerfDate(4);
+}
+
+TEST_F(PerformancePage, DrawsThatHaveComeBehindTheOthersLeaveTheDatesRight) {
+    page.clickPerfo(winningsPage::checkBase);
+    addDraw({1, 2, 3, 4, 5, 6, 7});
+    onWinDate = [](frmWinDate &window) { EXPECT_EQ(window.lvwWinDate.rowCount(), 2); };
+    page.clickPerfDate(4);
+}
+
+TEST_F(PerformancePage, SaysWhatTheGameCostAndWhatIsLeft) {
+    gGridConfig->monneyUnit("euro");
+    gGridConfig->price(0.6F);
+    gRapport->Value(4, 1.5F);
+    page.showPrizes();
+    addGrid({21, 22, 23, 24, 25, 26});
+    page.clickSubTab(winningsPage::performance);
+    EXPECT_EQ(page.lblPerfSum, "");
+    page.clickPerfo(winningsPage::checkBase);
+    EXPECT_EQ(page.lblPerfSum, "3 euros") << "twice three numbers";
+    EXPECT_EQ(page.lblPerfStake, "3,60 euros") << "2 grids in 3 draws at 0.6";
+    EXPECT_EQ(page.lblPerfBalance, "−0,60 euro");
+    EXPECT_EQ(desktop.announcements.back(), "2 grilles vérifiées sur 3 tirages");
+    gRapport->Value(4, 2);
+    page.showPrizes();
+    page.clickPerfo(winningsPage::checkBase);
+    EXPECT_EQ(page.lblPerfBalance, "+0,40 euro");
+    page.clickSubTab(winningsPage::verification);
+    page.clickSubTab(winningsPage::performance);
+    EXPECT_EQ(page.lblPerfSum + page.lblPerfStake + page.lblPerfBalance, "") << "blank again";
+}
+
+TEST_F(PerformancePage, TheCostCountsTheRandomDrawsThatWereChecked) {
+    gGridConfig->monneyUnit("euro");
+    gGridConfig->price(2);
+    page.clickSubTab(winningsPage::performance);
+    onRandomComb = [](frmRandomComb &dialog) {
+        dialog.txtnComb = "50";
+        dialog.clickCompute();
+        dialog.clickOK();
+    };
+    page.clickPerfo(winningsPage::checkRandomDraws);
+    EXPECT_EQ(page.lblPerfStake, "100 euros");
 }
 
 TEST_F(PerformancePage, BeforeAnyCheckThereAreNoDates) {

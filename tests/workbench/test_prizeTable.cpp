@@ -64,7 +64,11 @@ TEST_F(PrizeTablePage, AnAmountBeyondSinglePrecisionIsAnOverflow) {
     page.clickSubTab(winningsPage::report);
     ASSERT_EQ(desktop.messages.size(), 1U);
     EXPECT_EQ(desktop.messages[0],
-              (ShownBox{"Dépassement de capacité", Icon::critical, "Boulix Erreur système N° 6"}));
+              (ShownBox{"Dépassement de capacité\r\n« 3 numéros » attend un montant, avec ou sans "
+                        "décimales ; il y avait « " +
+                            page.txtRapPrice[4] + " ».",
+                        Icon::critical, "Boulix Erreur système N° 6"}));
+    EXPECT_EQ(desktop.focusedFields, (std::vector<std::string>{"txtRapPrice_4"}));
     EXPECT_EQ(gRapport->Value(4), 4.5F);
 }
 

@@ -63,14 +63,14 @@ void ForecastTab::makeList() {
 }
 
 ForecastTab::Parameter ForecastTab::makeParameter(const QString &name, const QString &caption,
-                                                  const QString &meaning, std::size_t rule,
-                                                  std::string &text) {
+                                                  const QString &meaning, const char *holds,
+                                                  std::size_t rule, std::string &text) {
     auto *label = new QLabel(caption, this);
     label->setObjectName(QStringLiteral("lbl%1_%2").arg(name).arg(rule));
     auto *box = new QLineEdit(this);
     box->setObjectName(QStringLiteral("txt%1_%2").arg(name).arg(rule));
     box->setAccessibleName(QStringLiteral("%1, règle %2").arg(meaning).arg(rule + 1));
-    box->setToolTip(meaning);
+    box->setToolTip(meaning + QStringLiteral(" : ") + QString::fromUtf8(holds));
     box->setFixedWidth(fontMetrics().averageCharWidth() * 12);
     label->setBuddy(box);
     connect(box, &QLineEdit::textEdited, this,
@@ -89,12 +89,14 @@ void ForecastTab::addRule(QGridLayout &grid, int row, std::size_t rule) {
     title->setAlignment(Qt::AlignLeft | Qt::AlignBottom);
     lblPronoTitle[rule] = title;
     n_[rule] = makeParameter(QStringLiteral("N"), QStringLiteral("N"),
-                             QStringLiteral("Nombre N de la règle"), rule, page_.txtN[rule]);
+                             QStringLiteral("Nombre N de la règle"), forecastPage::countHolds, rule,
+                             page_.txtN[rule]);
     p_[rule] = makeParameter(QStringLiteral("P"), QStringLiteral("P"),
-                             QStringLiteral("Nombre P de la règle"), rule, page_.txtP[rule]);
+                             QStringLiteral("Nombre P de la règle"), forecastPage::countHolds, rule,
+                             page_.txtP[rule]);
     points_[rule] = makeParameter(QStringLiteral("Points"), QStringLiteral("Points"),
                                   QStringLiteral("Points donnés à un numéro qui suit la règle"),
-                                  rule, page_.txtPoints[rule]);
+                                  forecastPage::pointsHold, rule, page_.txtPoints[rule]);
 
     grid.addWidget(title, row, 0, 1, 9);
     int column = 0;

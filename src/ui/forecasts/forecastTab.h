@@ -43,7 +43,7 @@ class ForecastTab : public QWidget, public forecastView {
     QWidget *makeRules();
     void addRule(QGridLayout &grid, int row, std::size_t rule);
     Parameter makeParameter(const QString &name, const QString &caption, const QString &meaning,
-                            std::size_t rule, std::string &text);
+                            const char *holds, std::size_t rule, std::string &text);
     void layOut();
 
     forecastPage &page_;

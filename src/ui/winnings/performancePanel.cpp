@@ -4,12 +4,14 @@
 #include "ui/winnings/performancePanel.h"
 
 #include "ui/style/theme.h"
+#include "ui/widgets/elidedLabel.h"
 #include "ui/widgets/qtText.h"
 #include "ui/widgets/toolbar.h"
 #include "ui/winnings/rankTable.h"
 #include "workbench/winningsPage.h"
 
 #include <QGridLayout>
+#include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QToolBar>
@@ -41,6 +43,7 @@ PerformancePanel::PerformancePanel(winningsPage &page, QWidget *parent)
     column->addWidget(toolbar);
     column->addWidget(pgrScanDB);
     column->addWidget(table);
+    column->addWidget(makeBalance());
     column->addStretch();
     progress_.setInterval(framesApart);
     connect(&progress_, &QTimer::timeout, this, &PerformancePanel::showProgress);
@@ -75,6 +78,31 @@ void PerformancePanel::addDateButtons() {
     }
 }
 
+/// The three sums side by side, each below its title, so that they take no more than two lines.
+QWidget *PerformancePanel::makeBalance() {
+    constexpr std::array<const char *, 3> names = {"lblPerfSum", "lblPerfStake", "lblPerfBalance"};
+    constexpr std::array<const char *, 3> titles = {"Total des gains", "Mise", "Bilan"};
+    auto *row = new QWidget(this);
+    row->setToolTip(QStringLiteral("La mise est le nombre de grilles multiplié par celui des "
+                                   "tirages et par le prix d'une grille"));
+    auto *grid = new QGridLayout(row);
+    grid->setContentsMargins(0, theme::gap / 2, 0, 0);
+    grid->setHorizontalSpacing(theme::margin);
+    grid->setVerticalSpacing(0);
+    for (std::size_t i = 0; i < balance_.size(); ++i) {
+        auto *title = new QLabel(QString::fromUtf8(titles[i]), row);
+        title->setForegroundRole(QPalette::PlaceholderText);
+        balance_[i] = new ElidedLabel(row);
+        balance_[i]->setObjectName(QString::fromLatin1(names[i]));
+        balance_[i]->setFont(rankTable::strong(font()));
+        const int column = static_cast<int>(i);
+        grid->addWidget(title, 0, column);
+        grid->addWidget(balance_[i], 1, column);
+        grid->setColumnStretch(column, 1);
+    }
+    return row;
+}
+
 void PerformancePanel::showProgress() {
     // Qt counts in int: the bar shows the part that is done.
     constexpr int parts = 1000;
@@ -87,6 +115,10 @@ void PerformancePanel::showProgress() {
 void PerformancePanel::refresh() {
     for (QPushButton *button : cmdPerfDate)
         button->setEnabled(page_.cmdPerfDateEnabled());
+    const std::array<const std::string *, 3> sums = {&page_.lblPerfSum, &page_.lblPerfStake,
+                                                     &page_.lblPerfBalance};
+    for (std::size_t i = 0; i < balance_.size(); ++i)
+        balance_[i]->setText(toQt(*sums[i]));
     showProgress();
     if (page_.busy() && !progress_.isActive())
         progress_.start();

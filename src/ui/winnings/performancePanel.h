@@ -14,6 +14,7 @@ class QPushButton;
 
 namespace boulix {
 
+class ElidedLabel;
 class winningsPage;
 
 /// What the game would have won over the whole base, or wins over random draws.
@@ -30,12 +31,14 @@ class PerformancePanel : public QWidget {
   private:
     QWidget *makeToolbar();
     void addDateButtons();
+    QWidget *makeBalance();
     void showProgress();
 
     winningsPage &page_;
     QProgressBar *pgrScanDB;
     QGridLayout *ranks_ = nullptr;
     std::array<QPushButton *, 11> cmdPerfDate{};
+    std::array<ElidedLabel *, 3> balance_{}; ///< won, stake, rest
     QTimer progress_;
 };
 
