@@ -4,6 +4,7 @@
 #include "workbench/frmTestProno.h"
 
 #include "core/failure.h"
+#include "core/frenchNumbers.h"
 #include "core/globals.h"
 #include "core/numbers.h"
 #include "core/platform.h"
@@ -11,7 +12,9 @@
 #include "draws/dbCombs.h"
 #include "forecasts/pronostics.h"
 #include "sill/appInfo.h"
+#include "sill/desktop.h"
 #include "sill/reports.h"
+#include "sill/typedField.h"
 
 #include <algorithm>
 
@@ -27,6 +30,10 @@ constexpr const char *joined = " du ";
 /// The number in a box, rounded. What is no position or count is left to the caller to refuse.
 double numberIn(const std::string &text) {
     return roundHalfEven(numericPrefix(text));
+}
+
+std::int32_t countIn(const std::string &text) {
+    return toInt32(numberIn(text));
 }
 
 bool isBetween(double value, double first, double last) {
@@ -45,6 +52,9 @@ std::string lineText(std::int32_t position) {
 frmTestProno::frmTestProno() {
     lvWResult.columns(
         {{"Tirage", "Tirage N° 00000 du 00/00/0000 - 0", false}, {"Nombre de numéros", "", false}});
+    lvWResult.whenEmpty({gDbCombs->Count() == 0
+                             ? "La base est vide : importez d'abord un historique."
+                             : "Remplissez les champs, puis cliquez sur « Calculer »."});
     takeNumTir(std::to_string(gDbCombs->Count()));
 }
 
@@ -115,10 +125,19 @@ void frmTestProno::compute() {
         return;
     }
     const std::int32_t draw = toInt32(testDraw);
-    const std::int32_t before = toInt32(numberIn(txtTirBefore));
-    gPronostics->test(draw, before, toInt32(numberIn(txtTirAfter)), toInt32(best));
+    const std::int32_t before =
+        readField({"txtTirBefore", "tirages avant ce tirage", countHolds}, txtTirBefore, countIn);
+    const std::int32_t after =
+        readField({"txtTirAfter", "tirages après ce tirage", countHolds}, txtTirAfter, countIn);
+    txtTirBefore = std::to_string(before); // a word has counted as 0
+    txtTirAfter = std::to_string(after);
+    gPronostics->test(draw, before, after, toInt32(best));
     lvWResult.clear();
     listFrom(std::max<std::int64_t>(std::int64_t{draw} - before, 1));
+    const std::int64_t tested = lvWResult.rowCount();
+    desktop().announce("Pronostique testé sur " +
+                       groupedNumber(static_cast<std::uint64_t>(tested)) +
+                       (tested < 2 ? " tirage" : " tirages"));
 }
 
 /// Lists the result of the last test, its first line for the draw at `first`. After a refused

@@ -17,6 +17,8 @@ namespace boulix {
 class frmTestProno {
   public:
     static constexpr const char *caption = "Test de Pronostiques";
+    /// What the boxes of the draws before and after may hold.
+    static constexpr const char *countHolds = "un nombre entier de tirages";
 
     /// The window as it opens, on the last draw of the base.
     frmTestProno();

@@ -228,6 +228,18 @@ TEST_F(FrmTestProno, DrawsBeforeBeyondTheirWidthAreAnOverflow) {
     window.clickCompute();
     ASSERT_EQ(desktop.messages.size(), 1U);
     EXPECT_EQ(desktop.messages[0].title, "Boulix Erreur système N° 6");
+    EXPECT_EQ(desktop.focusedFields, (std::vector<std::string>{"txtTirBefore"}));
+    EXPECT_EQ(window.txtTirBefore, "99999999999") << "it stays to be mended";
+}
+
+TEST_F(FrmTestProno, SaysOnHowManyDrawsItTestedAndWhatAWordCountedAs) {
+    frmTestProno window;
+    EXPECT_EQ(window.lvWResult.whenEmpty().sentence,
+              "Remplissez les champs, puis cliquez sur « Calculer ».");
+    fill(window, "5", "2", "aucun", "49");
+    window.clickCompute();
+    EXPECT_EQ(window.txtTirAfter, "0");
+    EXPECT_EQ(desktop.announcements, (std::vector<std::string>{"Pronostique testé sur 3 tirages"}));
 }
 
 TEST_F(FrmTestProno, AHeaderClickSortsTheLinesAsText) {

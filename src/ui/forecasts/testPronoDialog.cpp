@@ -115,6 +115,11 @@ QWidget *TestPronoDialog::makeQuestions() {
     grid->addWidget(txtNbrCount, 3, 1);
     grid->addWidget(label("&meilleurs numéros issus du pronostique", txtNbrCount), 3, 2);
     grid->setColumnStretch(2, 1);
+    txtNumTir->setToolTip(QStringLiteral("Position dans la base : un nombre entier de 1 à %1")
+                              .arg(toQt(rules_.txtNumTir())));
+    txtTirBefore->setToolTip(QString::fromUtf8(frmTestProno::countHolds));
+    txtTirAfter->setToolTip(QString::fromUtf8(frmTestProno::countHolds));
+    txtNbrCount->setToolTip(QStringLiteral("Un nombre entier de 1 à 49"));
     setTabStops({toolBar, txtNumTir, spnTir, txtTirBefore, txtTirAfter, txtNbrCount, lvWResult});
     return questions;
 }

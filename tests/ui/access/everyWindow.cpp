@@ -223,7 +223,7 @@ void EveryWindowTest::openMessages(const Look &look) {
         look(box, "inputBox");
         static_cast<QDialog &>(box).reject();
     });
-    desktop->askText("Nom du jeu", "boulix", 20);
+    desktop->askText("Nom du jeu", "boulix", "Mardi", 20);
     robot.finish();
 }
 
