@@ -330,6 +330,9 @@ TEST_F(ReportViewTest, AColumnThatTheUserHasWidenedStaysWide) {
 
 TEST_F(ReportViewTest, AScreenReaderHearsTheRowThatTheKeyboardHasReached) {
     show();
+    view->activateWindow();
+    view->setFocus();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(view.get()));
     QTest::keyClick(view.get(), Qt::Key_Down);
     QTest::keyClick(view.get(), Qt::Key_Down);
     QAccessibleInterface *row = QAccessible::queryAccessibleInterface(view.get())->focusChild();
