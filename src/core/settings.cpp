@@ -67,6 +67,15 @@ void write(const std::string &section, const std::string &key, const std::string
     replace(text, profileText::withValue(text, section, key, value));
 }
 
+void write(const std::vector<Entry> &entries) {
+    const std::string before = contents();
+    std::string after = before;
+    for (const Entry &entry : entries)
+        after = profileText::withValue(after, entry.section, entry.key, entry.value);
+    if (after != before)
+        replace(before, after);
+}
+
 void remove(const std::string &section, const std::string &key) {
     const std::string text = contents();
     const std::string shorter = profileText::withoutKey(text, section, key);

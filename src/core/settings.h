@@ -4,6 +4,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 namespace boulix::settings {
 
@@ -19,6 +20,17 @@ std::string read(const std::string &section, const std::string &key,
 /// written is a run-time failure; the other values stay as they were for this run, and a later
 /// write brings them back to the disk.
 void write(const std::string &section, const std::string &key, const std::string &value);
+
+/// One value of the file.
+struct Entry {
+    std::string section;
+    std::string key;
+    std::string value;
+};
+
+/// The same for several values at once, which the file gets in one go. A file that has them all
+/// already is not written.
+void write(const std::vector<Entry> &entries);
 
 /// Deletes the line of `key`; nothing happens where it is missing.
 void remove(const std::string &section, const std::string &key);

@@ -6,6 +6,7 @@
 #include "support/boulixTest.h"
 #include "support/smallDisk.h"
 
+#include <chrono>
 #include <filesystem>
 #include <random>
 #include <sys/stat.h>
@@ -34,6 +35,16 @@ TEST_F(Settings, AValueWrittenIsFoundByTheNextRead) {
     EXPECT_EQ(readBytes(ini()), "[grille]\r\nunite_monnaie=\xE9"
                                 "cu\r\nprix_grille=0.75\r\n"
                                 "[impression]\r\nimprimante=\r\n");
+}
+
+TEST_F(Settings, SeveralValuesAreWrittenAtOnceAndOnlyWhereTheyDiffer) {
+    writeBytes(ini(), "; mine\n[b]\ny=2\n");
+    settings::write({{"a", "x", "1"}, {"b", "y", "3"}, {"a", "z", "4"}});
+    EXPECT_EQ(readBytes(ini()), "; mine\n[b]\ny=3\n[a]\nx=1\nz=4\n");
+    const auto then = std::filesystem::file_time_type::clock::now() - std::chrono::hours(1);
+    std::filesystem::last_write_time(ini(), then);
+    settings::write({{"a", "x", "1"}, {"b", "y", "3"}});
+    EXPECT_EQ(std::filesystem::last_write_time(ini()), then);
 }
 
 TEST_F(Settings, AFileChangedBySomebodyElseIsReadAnew) {
