@@ -4,6 +4,7 @@
 #include "stats/plotPane.h"
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 #include <utility>
 
@@ -13,6 +14,12 @@ namespace {
 
 /// The part of the height that stays free above the highest point.
 constexpr double headroom = 0.05;
+
+/// Whether a stretch of an axis lies where curves are, and is long enough for single precision.
+bool canBeSeen(float low, float high) {
+    const float size = std::max(std::abs(low), std::abs(high));
+    return size < PlotPane::farthest && high - low > std::max(size, 1.0F) * 1e-4F;
+}
 
 } // namespace
 
@@ -34,6 +41,33 @@ void PlotPane::showAll() {
     notify();
     if (moved)
         moved();
+}
+
+void PlotPane::zoom(double factor) {
+    const auto scaled = [factor](float &low, float &high) {
+        const double middle = (double{low} + high) / 2;
+        const double half = (double{high} - low) / 2 * factor;
+        low = static_cast<float>(middle - half);
+        high = static_cast<float>(middle + half);
+    };
+    PlotRange range = range_;
+    scaled(range.xMin, range.xMax);
+    scaled(range.yMin, range.yMax);
+    if (canBeSeen(range.xMin, range.xMax) && canBeSeen(range.yMin, range.yMax))
+        userRange(range);
+}
+
+void PlotPane::move(double partOfX, double partOfY) {
+    const auto shifted = [](float &low, float &high, double part) {
+        const double step = (double{high} - low) * part;
+        low = static_cast<float>(low + step);
+        high = static_cast<float>(high + step);
+    };
+    PlotRange range = range_;
+    shifted(range.xMin, range.xMax, partOfX);
+    shifted(range.yMin, range.yMax, partOfY);
+    if (canBeSeen(range.xMin, range.xMax) && canBeSeen(range.yMin, range.yMax))
+        userRange(range);
 }
 
 void PlotPane::titles(const std::string &x, const std::string &y) {

@@ -63,6 +63,13 @@ class PlotPane {
     void userRange(const PlotRange &range);
     /// Shows the whole of the curves, whatever the range followed so far.
     void showAll();
+    /// What a key does: the stretch in sight becomes larger or smaller about its middle, or moves
+    /// by a part of itself, to the right and upwards where the parts are positive. Beyond
+    /// `farthest` there is nothing to see, and far nearer than a unit nothing either: nothing
+    /// happens there.
+    void zoom(double factor);
+    void move(double partOfX, double partOfY);
+    static constexpr float farthest = 1e9F;
 
     /// What the axes count.
     const std::string &xTitle() const { return xTitle_; }

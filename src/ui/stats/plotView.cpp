@@ -14,7 +14,9 @@
 
 #include <QAction>
 #include <QBuffer>
+#include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QSvgGenerator>
 #include <QToolTip>
 #include <QVBoxLayout>
@@ -49,7 +51,7 @@ QCPRange drawable(float first, float last) {
 /// Whether the user may zoom or drag to a range: far beyond any curve there is nothing to see, and
 /// at last no single-precision limit.
 bool isInReach(const QCPRange &range) {
-    constexpr double farthest = 1e9;
+    constexpr double farthest = PlotPane::farthest;
     return std::abs(range.lower) < farthest && std::abs(range.upper) < farthest;
 }
 
@@ -70,8 +72,9 @@ PlotView::PlotView(PlotPane &pane, QWidget *parent)
     : QWidget(parent), pane_(pane), plot_(new QCustomPlot(this)) {
     setObjectName(QStringLiteral("PlotPane"));
     auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setContentsMargins(2, 2, 2, 2); // room for the focus ring
     layout->addWidget(plot_);
+    setFocusPolicy(Qt::StrongFocus);
     dress();
     plot_->setPlottingHint(QCP::phFastPolylines);
     plot_->setInteractions(QCP::iRangeDrag | QCP::iRangeZoom);
@@ -261,6 +264,40 @@ QString PlotView::valueAt(double x) const {
             .trimmed();
     }
     return {};
+}
+
+void PlotView::keyPressEvent(QKeyEvent *event) {
+    constexpr double larger = 0.8;
+    constexpr double step = 0.1;
+    switch (event->key()) {
+    case Qt::Key_Plus:
+    case Qt::Key_Equal: // the same key without Shift
+        return pane_.zoom(larger);
+    case Qt::Key_Minus:
+        return pane_.zoom(1 / larger);
+    case Qt::Key_Left:
+        return pane_.move(-step, 0);
+    case Qt::Key_Right:
+        return pane_.move(step, 0);
+    case Qt::Key_Up:
+        return pane_.move(0, step);
+    case Qt::Key_Down:
+        return pane_.move(0, -step);
+    case Qt::Key_0:
+    case Qt::Key_Home:
+        return pane_.showAll();
+    default:
+        QWidget::keyPressEvent(event);
+    }
+}
+
+/// The ring around the curve tells that its keys work.
+void PlotView::paintEvent(QPaintEvent *) {
+    if (!hasFocus())
+        return;
+    QPainter painter(this);
+    painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
+    painter.drawRect(rect().adjusted(1, 1, -1, -1));
 }
 
 bool PlotView::eventFilter(QObject *watched, QEvent *event) {

@@ -32,6 +32,9 @@ class PlotView : public QWidget {
   protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
     void changeEvent(QEvent *event) override;
+    /// + and - zoom, the arrows move, 0 and Home bring the whole curve back.
+    void keyPressEvent(QKeyEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
 
   private:
     void dress();
