@@ -5,7 +5,8 @@
 # program keeps all of its data beside itself, so executable, help and samples share one folder.
 if(TARGET boulix)
     install(TARGETS boulix RUNTIME DESTINATION .)
-    install(FILES "${PROJECT_SOURCE_DIR}/src/ui/style/icons/boulix.svg" DESTINATION .)
+    install(FILES "${PROJECT_SOURCE_DIR}/src/ui/style/icons/boulix.svg"
+        "${PROJECT_SOURCE_DIR}/packaging/boulix-types.xml" DESTINATION .)
     # The menu entry names its folder, which is known at the time of the installation only.
     set(BOULIX_MENU_ENTRY "${PROJECT_SOURCE_DIR}/packaging/boulix.desktop.in")
     install(CODE "

@@ -25,10 +25,13 @@ int main(int argc, char **argv) {
 
     boulix::FolderLock folder(boulix::Application::applicationDirPath());
     folder.called = [&desktop] { desktop.comeToFront(); };
+    folder.handed = [&desktop](const QStringList &files) { desktop.openFiles(files); };
+    folder.files = boulix::Application::namedFiles();
     if (!boulix::claimFolder(folder))
         return 0;
 
     boulix::runCommand(boulix::modMain::Main);
     const bool onScreen = desktop.startEnded();
+    desktop.openFiles(folder.files);
     return onScreen ? boulix::Application::exec() : 1;
 }

@@ -63,6 +63,8 @@ class gameDef {
     /// refused; a file that is cut or that lies about its rows is a run-time failure. Both leave
     /// the definition as it was.
     bool load();
+    /// The same from a file that lies anywhere.
+    bool loadFile(const std::string &fullName);
     /// Prints the definition.
     void printDef() const;
     /// Asks for a new label and saves the definition in its place. A cancelled box gives the
@@ -75,6 +77,7 @@ class gameDef {
     bool compute(std::int16_t nFixed, std::int16_t nWin, std::int16_t nSelect);
 
   private:
+    bool read(xFile &file);
     static bool announceGrids(frmProgress &progress, std::int32_t grids);
     static bool announcePuplets(frmProgress &progress, std::int32_t puplets);
     bool chooseGrids(frmProgress &progress, std::int32_t grids, std::int32_t puplets);

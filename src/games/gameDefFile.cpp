@@ -170,26 +170,38 @@ void gameDef::write(const std::string &label) const {
 bool gameDef::load() {
     xFile file = fileOf(file_);
     file.path(platform().applicationFolder());
+    return read(file);
+}
+
+bool gameDef::loadFile(const std::string &fullName) {
+    xFile file;
+    file.fullName(fullName);
+    if (!file_)
+        file_ = std::make_shared<xFile>();
+    return read(file);
+}
+
+bool gameDef::read(xFile &file) {
     SlotReader reader(file.fullName(), newHead().fileLen());
     file.head().loadRecord(reader);
     if (!file.verifyHead(fileType))
         return false;
 
-    gameDef read;
+    gameDef def;
     const std::string name = readLabel(reader, nameSlot);
-    read.label_ = readLabel(reader, labelSlot);
-    read.nCond_ = readInt16(reader.read(nCondSlot, 2), 0);
-    read.nFixed_ = readInt16(reader.read(nFixedSlot, 2), 0);
-    read.nSelect_ = readInt16(reader.read(nSelectSlot, 2), 0);
-    read.nWin_ = readInt16(reader.read(nWinSlot, 2), 0);
+    def.label_ = readLabel(reader, labelSlot);
+    def.nCond_ = readInt16(reader.read(nCondSlot, 2), 0);
+    def.nFixed_ = readInt16(reader.read(nFixedSlot, 2), 0);
+    def.nSelect_ = readInt16(reader.read(nSelectSlot, 2), 0);
+    def.nWin_ = readInt16(reader.read(nWinSlot, 2), 0);
     const std::int32_t count = readRowCount(reader, file.head().fileLen());
     for (std::int32_t i = 0; i < count; ++i)
-        read.rows_.emplace_back(readRow(reader, firstRowSlot + i));
+        def.rows_.emplace_back(readRow(reader, firstRowSlot + i));
 
     file.name(name);
     *file_ = file;
-    read.file_ = file_;
-    *this = read;
+    def.file_ = file_;
+    *this = def;
     return true;
 }
 

@@ -50,6 +50,7 @@ frmMain::frmMain()
     };
     statistics.numbersToPlay = [this] { playNumbers(); };
     games.design.tickedInForecasts = [this] { return forecasts.tickedNumbers(); };
+    games.fileUsed = [this](const std::string &fullName) { memory.gameUsed(fullName); };
     games.gameShown = [this] { winnings.showVerification(); };
 }
 
@@ -64,6 +65,24 @@ void frmMain::load() {
         showDrawCount();
         logLine("frmMain.Load: Fin de chargement de la fenêtre");
     });
+    recall();
+}
+
+/// The window opens as it was left.
+void frmMain::recall() {
+    memory = Memory::read();
+    visiblePage_ = static_cast<std::int16_t>(memory.tab);
+    games.design.chkSelect = memory.sources;
+    if (!memory.folder.empty())
+        modMain::gCurrentDir = memory.folder;
+}
+
+void frmMain::keepMemory() {
+    const bool folderChosen = modMain::gCurrentDir != platform().applicationFolder();
+    memory.tab = visiblePage_;
+    memory.sources = games.design.chkSelect;
+    memory.folder = folderChosen ? modMain::gCurrentDir : "";
+    memory.write();
 }
 
 void frmMain::frmInitTab() {

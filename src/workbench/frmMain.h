@@ -8,6 +8,7 @@
 #include "workbench/eliminatorPage.h"
 #include "workbench/forecastPage.h"
 #include "workbench/gamePage.h"
+#include "workbench/memory.h"
 #include "workbench/statisticsPage.h"
 #include "workbench/windowFrame.h"
 #include "workbench/winningsPage.h"
@@ -15,6 +16,7 @@
 #include <array>
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace boulix {
 
@@ -25,6 +27,8 @@ class frmMainView {
 
     /// Shows caption, status panels and the visible page again.
     virtual void refresh() = 0;
+    /// Shows the sub-tab `side`, from 0, of the page of the games.
+    virtual void goToSide(int side) = 0;
 };
 
 /// A tab of the main window.
@@ -51,6 +55,7 @@ class frmMain : public windowFrame {
     gamePage games;
     winningsPage winnings;
     forecastPage forecasts;
+    Memory memory; ///< of the last run, and for the next one
 
     void view(frmMainView *view) { view_ = view; }
     /// The load sequence, run once before the window is shown.
@@ -70,6 +75,13 @@ class frmMain : public windowFrame {
     /// closed.
     bool queryClose();
 
+    /// Opens each of the files that the user has dropped on the window, or named at the start, as
+    /// the dialog of its page does, and goes to that page. Those of no known kind are named in one
+    /// message.
+    void openFiles(const std::vector<std::string> &fullNames);
+    /// Keeps what the next run shall know. `memory` has the window's place and columns by then.
+    void keepMemory();
+
     void frmUpdateDBList() override;
     void showDrawCount() override;
     void showSelectedCount(const std::string &text) override;
@@ -81,6 +93,9 @@ class frmMain : public windowFrame {
     std::string unsavedGame() const;
     bool mayLeaveBase();
     void playNumbers();
+    void recall();
+    bool openFile(const std::string &fullName);
+    void goToSide(int side);
     void refresh() const;
 
     frmMainView *view_ = nullptr;

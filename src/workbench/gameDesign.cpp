@@ -168,6 +168,12 @@ void gameDesign::clickCreateButton(int index) {
     refresh();
 }
 
+void gameDesign::openSystem(const std::string &fullName) {
+    clickTab(createTab);
+    runCommand([&] { systems.open(fullName); });
+    refresh();
+}
+
 void gameDesign::runButton(int index) {
     switch (index) {
     case addGame:

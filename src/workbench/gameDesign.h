@@ -82,6 +82,8 @@ class gameDesign {
     std::string lblCount() const;
     /// Why a button of `tbarGameDef` can do nothing now; empty for one that can.
     static std::string whyOff(int button);
+    /// Goes to the tab "Créer" and shows the system of a file there.
+    void openSystem(const std::string &fullName);
     /// What the next selections begin with.
     const selector &gameSelector() const { return gameSelector_; }
 

@@ -235,8 +235,11 @@ void gamePage::load() {
             document.loaded(loaded.file);
     });
     refill();
-    if (!loaded.file.empty())
-        desktop().announce(loadText(loaded, before));
+    if (loaded.file.empty())
+        return;
+    if (fileUsed)
+        fileUsed(loaded.file);
+    desktop().announce(loadText(loaded, before));
 }
 
 void gamePage::clear() {
@@ -288,6 +291,8 @@ void gamePage::save() {
     if (file.empty())
         return;
     document.saved(file);
+    if (fileUsed)
+        fileUsed(file);
     desktop().announce("Jeu enregistré dans " + document.name() + " : " +
                        gridCount(currentGame->Count()));
 }

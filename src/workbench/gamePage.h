@@ -42,6 +42,7 @@ class gamePage {
     static const std::array<const char *, 3> printMenu;
     /// The sub-tabs on the right side; the last one is `design`.
     static const std::array<const char *, 4> TabGame;
+    static constexpr int designSide = 3;
 
     /// `rules` is the page whose values the elimination takes.
     explicit gamePage(eliminatorPage &rules);
@@ -53,6 +54,8 @@ class gamePage {
     gameDocument document; ///< the file of the game
     /// Called when the list shows a new game, so that the game is verified anew.
     std::function<void()> gameShown;
+    /// Called with the full name of a file that the game was read from or written to.
+    std::function<void(const std::string &)> fileUsed;
 
     /// Sets the columns and the state of all controls at the start.
     void init();

@@ -143,6 +143,19 @@ void systemMaker::take(const Guarantee &guarantee, const std::vector<gameComb> &
     showSystem();
 }
 
+void systemMaker::open(const std::string &fullName) {
+    const auto read = std::make_shared<gameDef>();
+    if (!read->loadFile(fullName))
+        return;
+    createNWin_ = read->nWin();
+    createNFixed_ = read->nFixed();
+    createNChosen_ = read->nSelect();
+    newGameDef_ = read;
+    showSystem();
+    desktop().announce("Système « " + read->label() +
+                       " » ouvert : « Ajouter » le met parmi les jeux");
+}
+
 void systemMaker::add() {
     modGame::GameList &list = createNFixed_ != 0 ? modGame::fixedGames : modGame::reducedGames;
     const std::int16_t nReduced = narrow16(modGame::nReducedGames() - modGame::nPredefReduced);

@@ -74,6 +74,8 @@ class systemMaker {
     void view(systemMakerView *view) { view_ = view; }
     /// Does what a button of `tbarCreateGame` says.
     void runButton(int index);
+    /// Shows the system of a file as if it had just been computed, so that it can be kept.
+    void open(const std::string &fullName);
 
   private:
     void add();

@@ -12,7 +12,7 @@ rm -rf "$folder"
 "$cmake" --install "$build" --prefix "$folder"
 
 top=$BOULIX_TOP
-for file in boulix boulix.svg boulix.desktop LICENSE; do
+for file in boulix boulix.svg boulix.desktop boulix-types.xml LICENSE; do
     [ -s "$folder/$file" ] || fail "$file is not in the folder"
 done
 for part in samples help; do
@@ -27,7 +27,7 @@ rm "$folder/defrapp.rap"
 cmp "$top/packaging/defrapp.rap" "$folder/defrapp.rap" || fail "the missing prize table did not come back"
 
 desktop-file-validate "$folder/boulix.desktop" || fail "the menu entry is not valid"
-grep -qx "Exec=$folder/boulix" "$folder/boulix.desktop" || fail "the menu entry starts something else"
+grep -qx "Exec=$folder/boulix %F" "$folder/boulix.desktop" || fail "the menu entry starts something else"
 
 elsewhere=$(mktemp -d)
 program=

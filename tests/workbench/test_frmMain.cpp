@@ -35,12 +35,14 @@ class MainWindow : public BoulixTest, protected frmMainView {
         mainWindow->view(this);
     }
     void refresh() override { ++refreshes; }
+    void goToSide(int side) override { shownSide = side; }
     static void addDraw(int day, std::int16_t id) {
         gDbCombs->Add(dateOf({2003, 1, day}), id, numbers(static_cast<std::int16_t>(day)), false,
                       "");
     }
 
     int refreshes = 0;
+    int shownSide = -1;
 };
 
 TEST_F(MainWindow, AStartWithAnEmptyBaseShowsNoRowAndACountOfZero) {

@@ -21,6 +21,9 @@ class Application : public QApplication {
     /// ends here: it is shown, and the program lives on.
     bool notify(QObject *receiver, QEvent *event) override;
 
+    /// The full names of the files that the command line names, behind the switch of the log.
+    static QStringList namedFiles();
+
   private:
     void speakFrench();
 

@@ -9,6 +9,7 @@
 #include <QAction>
 #include <QDir>
 #include <QFileDialog>
+#include <QFileIconProvider>
 #include <QFileInfo>
 #include <QHeaderView>
 #include <QTreeView>
@@ -16,6 +17,20 @@
 namespace boulix::fileDialogs {
 
 namespace {
+
+/// Qt's own dialog takes the kinds of files from here, and knows no French ones.
+class FrenchKinds : public QFileIconProvider {
+  public:
+    QString type(const QFileInfo &info) const override {
+        if (info.isRoot())
+            return QStringLiteral("Lecteur");
+        if (info.isDir())
+            return QStringLiteral("Dossier");
+        const QString extension = info.suffix();
+        return extension.isEmpty() ? QStringLiteral("Fichier")
+                                   : QStringLiteral("Fichier %1").arg(extension);
+    }
+};
 
 /// The patterns of one filter, parted by blanks as Qt wants them.
 QString qtPatterns(const QString &patterns) {
@@ -50,6 +65,8 @@ void prepare(QFileDialog &dialog, const FileQuestion &question) {
     dialog.setObjectName(QStringLiteral("comDiag"));
     forbidChanges(dialog);
     dialog.setWindowTitle(toQt(question.title));
+    static FrenchKinds kinds;
+    dialog.setIconProvider(&kinds);
     dialog.setDirectory(toQt(question.folder));
     dialog.setNameFilters(nameFilters(question.filter));
     // The columns shall be as wide as what they say.

@@ -95,6 +95,8 @@ bool FolderLock::callHolder() {
     if (!call.open(QIODevice::WriteOnly))
         return false;
     call.write(screenName() + '\n' + qgetenv(activationToken) + '\n');
+    for (const QString &file : files)
+        call.write(file.toUtf8().toPercentEncoding() + '\n'); // a name may hold a line end
     if (!call.commit())
         return false;
     hide(callName_);
@@ -124,6 +126,9 @@ void FolderLock::answerCall() {
         return;
     const QByteArray screen = call.readLine().chopped(1);
     const QByteArray token = call.readLine().chopped(1);
+    QStringList names;
+    while (!call.atEnd())
+        names << QString::fromUtf8(QByteArray::fromPercentEncoding(call.readLine().trimmed()));
     call.close();
     const bool sameUser = QFileInfo(callName_).ownerId() == QFileInfo(lockName_).ownerId();
     if (screen != screenName() || !sameUser || !call.remove())
@@ -132,6 +137,8 @@ void FolderLock::answerCall() {
         qputenv(activationToken, token); // where only who has it may come to the front
     if (called)
         called();
+    if (handed && !names.isEmpty())
+        handed(names);
 }
 
 } // namespace boulix

@@ -8,6 +8,7 @@
 #include <QFileSystemWatcher>
 #include <QLockFile>
 #include <QObject>
+#include <QStringList>
 
 #include <functional>
 
@@ -26,6 +27,10 @@ class FolderLock : public QObject, public FolderClaim {
 
     /// What brings the window to the front when another start calls.
     std::function<void()> called;
+    /// The files that this start was given, handed over with its call.
+    QStringList files;
+    /// What opens the files that another start hands over, called behind `called`.
+    std::function<void(const QStringList &files)> handed;
 
     Holder take() override;
     std::string machine() const override;

@@ -3,11 +3,13 @@
 
 #include "ui/frame/helpWindow.h"
 
+#include "sill/help.h"
 #include "ui/style/theme.h"
 #include "ui/widgets/qtText.h"
 #include "ui/widgets/toolbar.h"
 
 #include <QFileInfo>
+#include <QKeyEvent>
 #include <QTextBrowser>
 #include <QToolBar>
 #include <QVBoxLayout>
@@ -28,6 +30,13 @@ HelpWindow::HelpWindow(QWidget *parent)
     makeToolbar();
     column->addWidget(browser_);
     resize(760, 620);
+}
+
+void HelpWindow::keyPressEvent(QKeyEvent *event) {
+    if (event->key() == Qt::Key_Escape)
+        close();
+    else
+        QWidget::keyPressEvent(event);
 }
 
 void HelpWindow::makeToolbar() {
@@ -60,7 +69,7 @@ void HelpWindow::makeToolbar() {
 
 QString HelpWindow::pageFor(const std::string &target, std::optional<std::int32_t> context) {
     const QString file = toQt(target).section(QLatin1Char('>'), 0, 0);
-    const QString page = context ? QString::number(*context) : QStringLiteral("index");
+    const QString page = context ? toQt(help::pageName(*context)) : QStringLiteral("index");
     return QFileInfo(file).absolutePath() + QStringLiteral("/help/") + page +
            QStringLiteral(".html");
 }

@@ -29,6 +29,10 @@ class HelpWindow : public QWidget {
     /// beside it.
     void showPage(const QString &file);
 
+  protected:
+    /// Escape closes the window.
+    void keyPressEvent(QKeyEvent *event) override;
+
   private:
     void makeToolbar();
 

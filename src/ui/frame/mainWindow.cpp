@@ -6,21 +6,34 @@
 #include "core/globals.h"
 #include "printing/modPrinter.h"
 #include "sill/appInfo.h"
+#include "sill/help.h"
 #include "sill/reports.h"
 #include "sill/undo.h"
 #include "ui/frame/frmAbout.h"
+#include "ui/frame/helpHere.h"
 #include "ui/style/iconLoader.h"
 #include "ui/style/theme.h"
 #include "ui/widgets/elidedLabel.h"
 #include "ui/widgets/fittingTabs.h"
 #include "ui/widgets/qtText.h"
+#include "ui/widgets/reportView.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QCloseEvent>
+#include <QDir>
+#include <QFileInfo>
 #include <QLabel>
 #include <QMenuBar>
+#include <QMimeData>
+#include <QRegularExpression>
 #include <QScreen>
 #include <QStatusBar>
+#include <QTimer>
+#include <QUrl>
+
+#include <algorithm>
+#include <utility>
 
 namespace boulix {
 
@@ -58,9 +71,44 @@ MainWindow::MainWindow(frmMain &main, const MainParts &parts)
     makeStatusBar();
     main_.view(this);
     refresh();
-    findChild<QWidget *>(QStringLiteral("lvwDBcomb"))->setFocus();
+    if (main_.visiblePage() == 0)
+        findChild<QWidget *>(QStringLiteral("lvwDBcomb"))->setFocus();
+    setAcceptDrops(true);
     const QSize room = screen()->availableGeometry().size() - frameRoom;
     resize((sizeInTwips * pixelsPerTwip).boundedTo(room));
+    openAsLeft();
+}
+
+/// As large and in the place of the last run, as far as the screens of today allow it.
+void MainWindow::openAsLeft() {
+    for (const auto &[list, widths] : main_.memory.columns)
+        if (auto *view = findChild<ReportView *>(toQt(list)))
+            view->setUserWidths(widths);
+    if (main_.memory.window) {
+        std::vector<Area> rooms;
+        for (const QScreen *one : QGuiApplication::screens()) {
+            const QRect room = one->availableGeometry();
+            rooms.push_back({room.left(), room.top(), room.width() - frameRoom.width(),
+                             room.height() - frameRoom.height()});
+        }
+        const Area place = onScreens(*main_.memory.window, rooms);
+        resize(place.width, place.height);
+        move(place.left, place.top);
+    }
+    if (main_.memory.maximised)
+        setWindowState(windowState() | Qt::WindowMaximized);
+}
+
+void MainWindow::keepMemory() {
+    const QSize size = normalGeometry().isValid() ? normalGeometry().size() : this->size();
+    main_.memory.maximised = isMaximized();
+    if (!isMaximized() || !main_.memory.window)
+        main_.memory.window = Area{x(), y(), size.width(), size.height()};
+    for (const char *list : Memory::lists)
+        if (const auto *view = findChild<ReportView *>(QLatin1String(list)))
+            if (const auto widths = view->userWidths(); !widths.empty())
+                main_.memory.columns[list] = widths;
+    main_.keepMemory();
 }
 
 MainWindow::~MainWindow() {
@@ -100,6 +148,7 @@ void MainWindow::makeMenus() {
                              QStringLiteral("quit"));
     quit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
     connect(quit, &QAction::triggered, this, &QWidget::close);
+    connect(file, &QMenu::aboutToShow, this, [this, file] { showRecentGames(*file); });
 
     makeEditMenu();
 
@@ -119,15 +168,43 @@ void MainWindow::makeMenus() {
     connect(grid, &QAction::triggered, this, [this] { parts_.runGridParam(this); });
     connect(graph, &QAction::triggered, this, [this] { parts_.runGraphParam(this); });
 
-    QMenu *help = menuBar()->addMenu(QStringLiteral("&?"));
-    help->setObjectName(QStringLiteral("mnuHlp"));
-    QAction *pages =
-        addEntry(*help, QStringLiteral("mnuHelp"), QStringLiteral("&Aide"), QStringLiteral("help"));
-    pages->setShortcut(QKeySequence(Qt::Key_F1));
+    QMenu *questions = menuBar()->addMenu(QStringLiteral("&?"));
+    questions->setObjectName(QStringLiteral("mnuHlp"));
+    QAction *pages = addEntry(*questions, QStringLiteral("mnuHelp"), QStringLiteral("&Aide"),
+                              QStringLiteral("help"));
     connect(pages, &QAction::triggered, this, [this] { runCommand([this] { main_.showHelp(); }); });
-    QAction *about = addEntry(*help, QStringLiteral("mnuAbout"), QStringLiteral("A &propos"),
+    QAction *about = addEntry(*questions, QStringLiteral("mnuAbout"), QStringLiteral("A &propos"),
                               QStringLiteral("about"));
     connect(about, &QAction::triggered, this, &MainWindow::showAbout);
+    QAction *here = addEntry(*questions, QStringLiteral("mnuHelpHere"),
+                             QStringLiteral("Aide de cette pa&ge"), QStringLiteral("help"));
+    here->setShortcut(QKeySequence(Qt::Key_F1));
+    connect(here, &QAction::triggered, this, [] { runCommand(showHelpHere); });
+    QAction *keys = addEntry(*questions, QStringLiteral("mnuKeys"),
+                             QStringLiteral("&Touches du clavier"), QStringLiteral("list"));
+    connect(keys, &QAction::triggered, this,
+            [] { runCommand([] { help::showPageOf({"keys"}); }); });
+}
+
+/// The game files last used, behind the other entries.
+void MainWindow::showRecentGames(QMenu &file) {
+    for (QAction *entry :
+         file.findChildren<QAction *>(QRegularExpression(QStringLiteral("^mnuRecent_"))))
+        delete entry;
+    if (!main_.memory.recentGames.empty())
+        file.addSeparator()->setObjectName(QStringLiteral("mnuRecent_0"));
+    int number = 0;
+    for (const std::string &game : main_.memory.recentGames) {
+        ++number;
+        const QFileInfo info(toQt(game));
+        const QString name = info.fileName().replace(QLatin1Char('&'), QStringLiteral("&&"));
+        QAction *entry =
+            addEntry(file, QStringLiteral("mnuRecent_%1").arg(number),
+                     QStringLiteral("&%1  %2").arg(number).arg(name), QStringLiteral("game"));
+        entry->setToolTip(info.filePath());
+        connect(entry, &QAction::triggered, this, [this, game] { openFiles({toQt(game)}); });
+    }
+    file.setToolTipsVisible(true);
 }
 
 void MainWindow::makeEditMenu() {
@@ -181,6 +258,51 @@ void MainWindow::refresh() {
     TabStrip->setCurrentIndex(main_.visiblePage());
 }
 
+void MainWindow::goToSide(int side) {
+    if (auto *sides = findChild<QTabWidget *>(QStringLiteral("TabGame")))
+        sides->setCurrentIndex(side);
+}
+
+/// Whether a command may be given: no dialog and no long job is up.
+bool MainWindow::isFree() const {
+    return isEnabled() && !QApplication::activeModalWidget();
+}
+
+void MainWindow::openFiles(const QStringList &fullNames) {
+    const bool idle = waiting_.isEmpty();
+    waiting_ += fullNames;
+    if (idle && !waiting_.isEmpty())
+        QTimer::singleShot(0, this, &MainWindow::openWaiting);
+}
+
+void MainWindow::openWaiting() {
+    constexpr int untilNextTry = 200; // milliseconds
+    if (!isFree()) {
+        QTimer::singleShot(untilNextTry, this, &MainWindow::openWaiting);
+        return;
+    }
+    std::vector<std::string> files;
+    for (const QString &file : std::exchange(waiting_, {}))
+        files.push_back(fromQt(file));
+    runCommand([&] { main_.openFiles(files); });
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent *event) {
+    const QList<QUrl> urls = event->mimeData()->urls();
+    const auto isFile = [](const QUrl &url) { return url.isLocalFile(); };
+    if (isFree() && std::any_of(urls.begin(), urls.end(), isFile))
+        event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent *event) {
+    QStringList files;
+    for (const QUrl &url : event->mimeData()->urls())
+        if (url.isLocalFile())
+            files << QDir::toNativeSeparators(url.toLocalFile());
+    event->acceptProposedAction();
+    openFiles(files); // later: whoever drags waits for the answer
+}
+
 void MainWindow::showAbout() {
     frmAbout(*gAppInfo, this).exec();
 }
@@ -190,6 +312,8 @@ void MainWindow::closeEvent(QCloseEvent *event) {
     bool mayClose = false;
     if (isEnabled())
         runCommand([&] { mayClose = main_.queryClose(); });
+    if (mayClose)
+        keepMemory();
     event->setAccepted(mayClose);
 }
 

@@ -38,14 +38,25 @@ class MainWindow : public QMainWindow, public frmMainView {
     ~MainWindow() override;
 
     void refresh() override;
+    void goToSide(int side) override;
+    /// Opens the files once the events under way are done and no dialog is up any more.
+    void openFiles(const QStringList &fullNames);
     /// Says behind the panels of the status bar what was done.
     void announce(const QString &text);
 
   protected:
     void closeEvent(QCloseEvent *event) override;
+    /// Files may be dropped anywhere on the window, unless a dialog or a long job is up.
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
 
   private:
     void makePages();
+    void openAsLeft();
+    void keepMemory();
+    void showRecentGames(QMenu &file);
+    bool isFree() const;
+    void openWaiting();
     void makeMenus();
     void makeEditMenu();
     void showUndo();
@@ -56,6 +67,7 @@ class MainWindow : public QMainWindow, public frmMainView {
 
     frmMain &main_;
     MainParts parts_;
+    QStringList waiting_; ///< files to be opened
     QTabWidget *TabStrip;
     std::array<QLabel *, 2> panels_{};
     ElidedLabel *announcement_ = nullptr;

@@ -7,8 +7,11 @@
 
 #ifdef Q_OS_WIN
 #include "core/text.h"
+#include "sill/help.h"
 
 #include <QLibrary>
+
+#include <algorithm>
 #endif
 
 namespace boulix {
@@ -24,6 +27,14 @@ bool showPlatformHelp(const std::string &target, std::optional<std::int32_t> con
         reinterpret_cast<HtmlHelp>(QLibrary::resolve(QStringLiteral("hhctrl.ocx"), "HtmlHelpA"));
     if (!htmlHelp)
         return false;
+    if (context && help::pageName(*context) != std::to_string(*context)) {
+        // The compiled file has names for its pages, no numbers.
+        const std::size_t window = std::min(target.find('>'), target.size());
+        const std::string page = target.substr(0, window) + "::/" + help::pageName(*context) +
+                                 ".html" + target.substr(window);
+        htmlHelp(nullptr, toWestern(page).c_str(), displayTopic, 0);
+        return true;
+    }
     htmlHelp(nullptr, toWestern(target).c_str(), context ? helpContext : displayTopic,
              context ? static_cast<std::uintptr_t>(*context) : 0);
     return true;

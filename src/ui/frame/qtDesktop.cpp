@@ -6,6 +6,7 @@
 #include "core/globals.h"
 #include "sill/frmNbrSelector.h"
 #include "sill/frmProgress.h"
+#include "sill/help.h"
 #include "ui/frame/fileDialogs.h"
 #include "ui/frame/frmSelDate.h"
 #include "ui/frame/frmSplash.h"
@@ -173,14 +174,21 @@ void QtDesktop::unloadOtherWindows() {
 void QtDesktop::showHelp(const std::string &target, std::optional<std::int32_t> context) {
     if (showPlatformHelp(target, context))
         return;
-    const QString page = HelpWindow::pageFor(target, context);
+    QString page = HelpWindow::pageFor(target, context);
+    if (context && help::pageName(*context) != std::to_string(*context) &&
+        !QFileInfo(page).isFile())
+        page = HelpWindow::pageFor(target, {}); // a folder of older pages
     if (!QFileInfo(page).isFile()) {
         const std::string text = "La page d'aide " + fromQt(page) + " est introuvable.";
         showMessage(text, Icon::information, "Aide");
         return;
     }
+    // A window that is no child of a dialog could not be used while that one is up.
+    QWidget *modal = QApplication::activeModalWidget();
+    if (help_ && help_->parentWidget() != modal)
+        delete help_;
     if (!help_) {
-        help_ = new HelpWindow;
+        help_ = new HelpWindow(modal);
         help_->setAttribute(Qt::WA_DeleteOnClose);
     }
     help_->showPage(page);
@@ -190,6 +198,14 @@ bool QtDesktop::startEnded() {
     if (splash_)
         splash_->offerToClose();
     return splash_ || main_;
+}
+
+/// Once the events under way are done: a call may come while a dialog is up, and a drop waits for
+/// its answer.
+void QtDesktop::openFiles(const QStringList &fullNames) {
+    auto *window = dynamic_cast<MainWindow *>(main_.get());
+    if (window)
+        window->openFiles(fullNames);
 }
 
 void QtDesktop::comeToFront() {
@@ -215,6 +231,11 @@ QWidget *QtDesktop::parentForDialog() const {
         return modal;
     if (progress_ && progress_->isVisible())
         return progress_.get();
+    // A window beside the main one, such as that of the graph, has its dialogs over itself.
+    QWidget *active = QApplication::activeWindow();
+    if (main_ && active && active->parentWidget() == main_.get() &&
+        active->windowType() == Qt::Window)
+        return active;
     if (main_)
         return main_.get();
     return splash_.get();

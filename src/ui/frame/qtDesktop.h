@@ -59,6 +59,8 @@ class QtDesktop : public Desktop {
     bool startEnded();
     /// Brings the main window, and the dialog over it where there is one, to the front.
     void comeToFront();
+    /// Opens the files in the main window, if there is one.
+    void openFiles(const QStringList &fullNames);
     /// The main window while there is one.
     QWidget *mainWidget() const;
 

@@ -106,7 +106,7 @@ QWidget *GameDesignPanel::makeRandomCount() {
     txtNrandomGrid->setFixedWidth(fontMetrics().averageCharWidth() * 12);
     connect(txtNrandomGrid, &QLineEdit::textEdited, this,
             [this](const QString &text) { design_.txtNrandomGrid = fromQt(text); });
-    auto *title = new QLabel(QStringLiteral("Nombre de grilles"), randomCount_);
+    auto *title = new QLabel(QStringLiteral("Nombre de &grilles"), randomCount_);
     title->setBuddy(txtNrandomGrid);
     auto *row = new QHBoxLayout(randomCount_);
     row->setContentsMargins(0, 0, 0, 0);

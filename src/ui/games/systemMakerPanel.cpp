@@ -23,6 +23,7 @@ SystemMakerPanel::SystemMakerPanel(gameDesign &design, QWidget *parent)
     : QWidget(parent), design_(design),
       lblnGameDefComb(makeResult(QStringLiteral("lblnGameDefComb"))),
       lblCost(makeResult(QStringLiteral("lblCost"))) {
+    setObjectName(QStringLiteral("systemMaker"));
     QWidget *toolbar = makeToolbar(); // before the boxes in the tab order, too
     auto *grid = new QGridLayout;
     grid->setHorizontalSpacing(theme::gap);
@@ -30,7 +31,7 @@ SystemMakerPanel::SystemMakerPanel(gameDesign &design, QWidget *parent)
     systemMaker &systems = design_.systems;
     nFixed_ = addNumber(*grid, QStringLiteral("Numéros fixes"), QStringLiteral("txtNFixedNbr"),
                         QStringLiteral("updnNFixed"), systems.nFixed);
-    nWin_ = addNumber(*grid, QStringLiteral("Numéros gagnants"), QStringLiteral("txtWinNbr"),
+    nWin_ = addNumber(*grid, QStringLiteral("Numéros &gagnants"), QStringLiteral("txtWinNbr"),
                       QStringLiteral("updnNWin"), systems.nWin);
     nChoosen_ = addNumber(*grid, QStringLiteral("Numéros choisis"), QStringLiteral("txtChoosenNbr"),
                           QStringLiteral("updnNChoosen"), systems.nChoosen);
@@ -75,7 +76,7 @@ UpDownField *SystemMakerPanel::addNumber(QGridLayout &grid, const QString &title
                                          numberBox &number) {
     auto *field = new UpDownField(number.upDownControl, boxName, arrowsName, this);
     auto *box = field->findChild<QLineEdit *>(boxName);
-    box->setAccessibleName(title);
+    box->setAccessibleName(QString(title).remove(QLatin1Char('&')));
     box->setToolTip(QStringLiteral("Un nombre de %1 à %2")
                         .arg(number.upDownControl.min())
                         .arg(number.upDownControl.max()));

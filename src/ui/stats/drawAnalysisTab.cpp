@@ -64,7 +64,7 @@ QWidget *DrawAnalysisTab::makeDrawRow() {
     auto *layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(theme::gap);
-    auto *caption = new QLabel(QStringLiteral("&Tirage"), row);
+    auto *caption = new QLabel(QStringLiteral("Ti&rage"), row);
     caption->setBuddy(draw_);
     layout->addWidget(caption);
     layout->addWidget(draw_);

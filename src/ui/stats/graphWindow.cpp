@@ -20,6 +20,7 @@
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QRadioButton>
+#include <QShortcut>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -28,10 +29,10 @@ namespace boulix {
 GraphWindow::GraphWindow(frmGraph &rules, QWidget *parent)
     : QWidget(parent, Qt::Window), rules_(rules), plotPane_(new PlotView(rules.plot, this)),
       cmbGraphType(new QComboBox(this)),
-      chkShowAxes(new QCheckBox(QStringLiteral("Afficher les a&xes"), this)),
+      chkShowAxes(new QCheckBox(QStringLiteral("Afficher les ax&es"), this)),
       chkShowGrid(new QCheckBox(QStringLiteral("Afficher la &grille"), this)),
       optAutoRange(new QRadioButton(QStringLiteral("Domaine &automatique"), this)),
-      optManualRange(new QRadioButton(QStringLiteral("Domaine &manuel"), this)),
+      optManualRange(new QRadioButton(QStringLiteral("Domaine ma&nuel"), this)),
       frameManualRange(new QGroupBox(this)) {
     setObjectName(QStringLiteral("frmGraph"));
     setWindowTitle(QString::fromUtf8(frmGraph::caption));
@@ -41,6 +42,9 @@ GraphWindow::GraphWindow(frmGraph &rules, QWidget *parent)
     layout->setSpacing(theme::margin);
     layout->addWidget(plotPane_, 1);
     layout->addWidget(makePanel());
+    auto *leave = new QShortcut(QKeySequence(Qt::Key_Escape), this);
+    connect(leave, &QShortcut::activated, this, &QWidget::close);
+    plotPane_->setFocus(); // its keys work at once
     rules_.changed = [this] { refresh(); };
     refresh();
 }
@@ -95,7 +99,7 @@ QWidget *GraphWindow::makeRange() {
 
 QWidget *GraphWindow::makeLimits() {
     constexpr std::array<const char *, 4> names = {"txtXMin", "txtXMax", "txtYMin", "txtYMax"};
-    constexpr std::array<const char *, 4> titles = {"X &min", "X ma&x", "Y m&in", "Y m&ax"};
+    constexpr std::array<const char *, 4> titles = {"&X min", "X &max", "Y m&in", "&Y max"};
     frameManualRange->setObjectName(QStringLiteral("frameManualRange"));
     auto *form = new QFormLayout(frameManualRange);
     form->setSpacing(theme::gap);

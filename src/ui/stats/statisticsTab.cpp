@@ -71,7 +71,7 @@ QToolBar *StatisticsTab::makeToolbar() {
          QStringLiteral("Enfoncez ce bouton pour visualiser la statistique demandée sous forme "
                         "graphique"),
          QStringLiteral("chart"), QKeySequence(Qt::CTRL | Qt::Key_G)},
-        {QStringLiteral("&Compl."),
+        {QStringLiteral("Co&mpl."),
          QStringLiteral("Utilise ou non le numéro complémentaire dans le calcul des statistiques"),
          QStringLiteral("complementary"),
          {}},
@@ -83,7 +83,7 @@ QToolBar *StatisticsTab::makeToolbar() {
          QStringLiteral("Imprimer la statistique étudiée"),
          QStringLiteral("print"),
          {}},
-        {QStringLiteral("E&ffacer"),
+        {QStringLiteral("Eff&acer"),
          QStringLiteral("Effacer la liste des numéros sélectionnés"),
          QStringLiteral("clear"),
          {}},
@@ -125,7 +125,7 @@ void StatisticsTab::makeRange() {
     frameStatsRange->setObjectName(QStringLiteral("frameStatsRange"));
     frameStatsRange->setToolTip(
         QStringLiteral("Permet de définir la plage d'étude pour les analyses statistiques"));
-    auto *startTitle = new QLabel(QStringLiteral("Tirage de &départ"), frameStatsRange);
+    auto *startTitle = new QLabel(QStringLiteral("T&irage de départ"), frameStatsRange);
     auto *endTitle = new QLabel(QStringLiteral("Ti&rage de fin"), frameStatsRange);
     startTitle->setBuddy(start_);
     endTitle->setBuddy(end_);

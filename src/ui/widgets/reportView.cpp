@@ -59,7 +59,8 @@ void ReportView::makeHeader() {
     header_->setStretchLastSection(true);
     header_->setMinimumSectionSize(fontMetrics().averageCharWidth() * 3);
     connect(header_, &QHeaderView::sectionClicked, this, &ReportView::headerClicked);
-    connect(header_, &QHeaderView::sectionResized, this, [this] {
+    connect(header_, &QHeaderView::sectionResized, this, [this](int column) {
+        keepUserWidths(column);
         updateGeometries();
         viewport()->update();
     });
@@ -163,8 +164,14 @@ void ReportView::changeEvent(QEvent *event) {
 
 void ReportView::sizeColumns() {
     rowHeight_ = fontMetrics().height() + rowPadding;
-    for (int column = 0; column < header_->count(); ++column)
-        header_->resizeSection(column, columnWidth(column));
+    const auto given = userWidths_.find(header_->count());
+    sizing_ = true;
+    for (int column = 0; column < header_->count(); ++column) {
+        const auto place = static_cast<std::size_t>(column);
+        const bool own = given != userWidths_.end() && place < given->second.size();
+        header_->resizeSection(column, own ? given->second[place] : columnWidth(column));
+    }
+    sizing_ = false;
     if (allColumnsVisible_)
         setMinimumWidth(fullWidth());
     updateGeometry();
@@ -185,8 +192,11 @@ void ReportView::showSorting() {
     const int column = list.sortColumn();
     header_->setSortIndicatorShown(column >= 0);
     header_->setSortIndicator(column, list.descending() ? Qt::DescendingOrder : Qt::AscendingOrder);
-    if (column >= 0) // the arrow must not cover the text
+    if (column >= 0) { // the arrow must not cover the text
+        sizing_ = true;
         header_->resizeSection(column, std::max(header_->sectionSize(column), columnWidth(column)));
+        sizing_ = false;
+    }
     if (allColumnsVisible_)
         setMinimumWidth(fullWidth());
 }

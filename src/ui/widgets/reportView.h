@@ -6,6 +6,7 @@
 #include <QAbstractItemView>
 
 #include <cstdint>
+#include <map>
 #include <memory>
 #include <vector>
 
@@ -45,6 +46,10 @@ class ReportView : public QAbstractItemView {
     void pick(int row);
     /// Turns the check mark of a row on or off, whichever of its columns is meant.
     void toggleCheck(const QModelIndex &index);
+    /// The widths that the user has given the columns, one stretch for each count of columns that
+    /// the list has had; the last column takes what is left and is no part of it.
+    std::vector<std::vector<int>> userWidths() const;
+    void setUserWidths(const std::vector<std::vector<int>> &widths);
 
     QRect visualRect(const QModelIndex &index) const override;
     QModelIndex indexAt(const QPoint &point) const override;
@@ -88,6 +93,7 @@ class ReportView : public QAbstractItemView {
     void makeHeader();
     void makeCopyActions();
     void sizeColumns();
+    void keepUserWidths(int column);
     int columnWidth(int column) const;
     void showSorting();
     void showEmptyPlace();
@@ -109,6 +115,8 @@ class ReportView : public QAbstractItemView {
     QHeaderView *header_;
     EmptyPlaceView *empty_;
     QStringList headers_;
+    std::map<int, std::vector<int>> userWidths_; // by the count of columns
+    bool sizing_ = false;                        // the columns take the widths of their samples
     int rowHeight_ = 1;
     int top_ = 0; ///< the first visible row when there were rows last
     bool allColumnsVisible_ = false;

@@ -6,8 +6,11 @@
 #include "ui/style/iconLoader.h"
 
 #include <QAction>
+#include <QActionEvent>
+#include <QHelpEvent>
 #include <QToolBar>
 #include <QToolButton>
+#include <QToolTip>
 
 namespace boulix {
 
@@ -21,6 +24,22 @@ class FittingToolbar : public QToolBar {
     }
 
   protected:
+    /// The key stands behind the tool tip, which remains what it is for whoever reads it aloud.
+    bool eventFilter(QObject *watched, QEvent *event) override {
+        const auto *button = qobject_cast<QToolButton *>(watched);
+        const QAction *action = button ? button->defaultAction() : nullptr;
+        if (event->type() != QEvent::ToolTip || !action)
+            return QToolBar::eventFilter(watched, event);
+        QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(), toolTipWithKey(*action),
+                           this);
+        return true;
+    }
+    void actionEvent(QActionEvent *event) override {
+        QToolBar::actionEvent(event);
+        if (event->type() == QEvent::ActionAdded)
+            if (QWidget *button = widgetForAction(event->action()))
+                button->installEventFilter(this);
+    }
     void resizeEvent(QResizeEvent *event) override {
         QToolBar::resizeEvent(event);
         if (toolButtonStyle() == style_)
@@ -48,6 +67,15 @@ QAction *addButton(QToolBar &bar, int number, const ToolbarButton &button) {
 }
 
 } // namespace
+
+QString toolTipWithKey(const QAction &action) {
+    const QString key = action.shortcut().toString(QKeySequence::NativeText);
+    if (key.isEmpty())
+        return action.toolTip();
+    QStringList lines = action.toolTip().split(QLatin1Char('\n'));
+    lines[0] += QStringLiteral(" (%1)").arg(key); // before a line that says why it is off
+    return lines.join(QLatin1Char('\n'));
+}
 
 QToolBar *makeToolbar(const QString &name, const std::vector<ToolbarButton> &buttons,
                       const std::function<void(int)> &clicked, QWidget *parent, ToolbarLook look) {

@@ -37,6 +37,8 @@ QToolBar *makeToolbar(const QString &name, const std::vector<ToolbarButton> &but
 /// Turns a button off where there is a reason why it can do nothing now, which its tool tip gives
 /// in a second line; on where `why` is empty.
 void setWhyOff(QAction &button, const QString &why);
+/// The tool tip of a button with its key behind it: "Imprimer le jeu (Ctrl+P)".
+QString toolTipWithKey(const QAction &action);
 
 /// The Tab key goes through `stops` in this order, and through all buttons of a toolbar. A field
 /// made of several parts must be made in its turn instead.

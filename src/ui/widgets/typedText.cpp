@@ -50,6 +50,7 @@ bool isCommand(const QObject &receiver, const QEvent &event) {
     case QEvent::KeyPress:
         return widget && leadsOutOfTheBox(event);
     case QEvent::Shortcut:
+    case QEvent::Drop:
         return true;
     case QEvent::Close: // tool tips and menus close all the time
         return widget && (widget->windowType() == Qt::Window || widget->windowType() == Qt::Dialog);

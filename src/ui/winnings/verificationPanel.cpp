@@ -55,7 +55,7 @@ QWidget *VerificationPanel::makeDrawRow() {
     auto *layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(theme::gap);
-    auto *caption = new QLabel(QStringLiteral("Tirage"), row);
+    auto *caption = new QLabel(QStringLiteral("Tira&ge"), row);
     caption->setBuddy(draw_);
     layout->addWidget(caption);
     layout->addWidget(draw_);

@@ -98,6 +98,19 @@ TEST_F(FolderLockTest, ACallIsAnsweredOnceAndLeavesNoFile) {
     EXPECT_EQ(calls, 2);
 }
 
+TEST_F(FolderLockTest, ACallHandsOverTheFilesOfItsStart) {
+    FolderLock holder(folder());
+    ASSERT_EQ(holder.take(), Holder::thisProgram);
+    QStringList handed;
+    holder.handed = [&](const QStringList &names) { handed += names; };
+    FolderLock caller(folder());
+    EXPECT_TRUE(called(caller));
+    EXPECT_EQ(handed, QStringList());
+    caller.files = {QStringLiteral("/jeux/é 100%.lst"), QStringLiteral("/jeux/a\nb.lst")};
+    EXPECT_TRUE(called(caller));
+    EXPECT_EQ(handed, caller.files);
+}
+
 TEST_F(FolderLockTest, ACallThatNobodyAnswersEndsAfterSomeSecondsAndIsTakenBack) {
     FolderLock first(folder());
     ASSERT_EQ(first.take(), Holder::thisProgram);

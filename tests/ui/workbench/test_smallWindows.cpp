@@ -74,6 +74,16 @@ TEST_F(SmallWindowTest, EveryDialogCanBeMadeSmall) {
     });
 }
 
+TEST_F(SmallWindowTest, NoDialogIsNarrowerThanItsTitle) {
+    forEveryDialog([](QWidget &dialog) {
+        QFont bold = dialog.font();
+        bold.setBold(true);
+        const int title = QFontMetrics(bold).horizontalAdvance(dialog.windowTitle());
+        const int buttons = 3 * QFontMetrics(bold).height();
+        EXPECT_GE(dialog.width(), title + buttons) << dialog.objectName().toStdString();
+    });
+}
+
 TEST_F(SmallWindowTest, TheToolbarsOfAllPagesKeepTheirTextsInASmallWindow) {
     window.resize(smallest);
     for (const Place &place : placesOfMainWindow()) {
