@@ -66,7 +66,6 @@ void dbCombs::PrintDB() {
         report->line(line);
     }
     report->end();
-    desktop().announce("Base de données imprimée.");
 }
 
 } // namespace boulix

@@ -159,7 +159,6 @@ void PrintStats(std::int16_t type, std::int16_t withCompl, std::int32_t first, s
          reportLines(type, withCompl, first, last, chooser, Medium::paper, {printed}))
         report->line(line);
     report->end();
-    desktop().announce("Statistique imprimée.");
 }
 
 } // namespace boulix::modStats

@@ -101,11 +101,11 @@ bool rapport::readAmounts(xFile &file) {
     return true;
 }
 
-void rapport::save(const std::string &fileName) const {
+bool rapport::save(const std::string &fileName) const {
     xFile file;
     file.fullName(fileName);
     if (file.name() != defaultName && !modFileSelector::mayReplace(file, gAppInfo->name()))
-        return;
+        return false;
     file.head().initialize(fileType);
     SlotImage image(file.head().fileLen());
     image.write(1, file.head().toRecord());
@@ -116,7 +116,7 @@ void rapport::save(const std::string &fileName) const {
         image.write(slot++, record);
     }
     replaceFile(file.fullName(), image.bytes());
-    desktop().announce("Rapports enregistrés dans " + file.name());
+    return true;
 }
 
 } // namespace boulix

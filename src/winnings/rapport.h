@@ -32,8 +32,9 @@ class rapport {
     /// Asks for a file and reads it; true when the amounts come from it now.
     bool load();
     /// Writes the table, asking first when it would replace a file of another name than the
-    /// default one. A file that cannot be written is a run-time failure.
-    void save(const std::string &fileName) const;
+    /// default one: false when the user has thought better of it. A file that cannot be written is
+    /// a run-time failure.
+    bool save(const std::string &fileName) const;
 
   private:
     bool read(xFile &file);

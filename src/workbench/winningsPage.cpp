@@ -12,6 +12,7 @@
 #include "draws/dbCombs.h"
 #include "files/modFileSelector.h"
 #include "files/slotFile.h"
+#include "files/xFile.h"
 #include "games/frmRandomComb.h"
 #include "games/game.h"
 #include "printing/gridConfig.h"
@@ -225,14 +226,14 @@ void winningsPage::runRapp(int index) {
         return;
     }
     takeBoxes();
-    if (index == saveDefault)
-        return gRapport->save(platform().applicationFolder() + pathSeparator +
-                              rapport::defaultName);
-    const std::string name =
-        modFileSelector::saveDialog("Fichier de rapport Boulix (*.rap)|*.rap",
-                                    "Sauvegarde d'un fichier de rapport", "rapports.rap");
-    if (!name.empty())
-        gRapport->save(name);
+    xFile file;
+    file.fullName(index == saveDefault
+                      ? platform().applicationFolder() + pathSeparator + rapport::defaultName
+                      : modFileSelector::saveDialog("Fichier de rapport Boulix (*.rap)|*.rap",
+                                                    "Sauvegarde d'un fichier de rapport",
+                                                    "rapports.rap"));
+    if (!file.fullName().empty() && gRapport->save(file.fullName()))
+        desktop().announce("Rapports enregistrés dans " + file.name());
 }
 
 void winningsPage::clickPerfDate(int index) {

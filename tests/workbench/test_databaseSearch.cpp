@@ -110,11 +110,12 @@ TEST_F(DatabasePage, EachCommandSaysWhatItDid) {
     desktop.answerSave(file("base.txt"));
     page.clickButton(databasePage::exportBase);
     page.clickButton(databasePage::printBase);
-    EXPECT_EQ(desktop.announcements, (std::vector<std::string>{"Tirage ajouté. Ctrl+Z l'annule.",
-                                                               "Tirage modifié. Ctrl+Z l'annule.",
-                                                               "Tirage supprimé. Ctrl+Z l'annule.",
-                                                               "Base exportée dans base.txt.",
-                                                               "Base de données imprimée."}));
+    EXPECT_EQ(desktop.announcements,
+              (std::vector<std::string>{
+                  "Tirage ajouté. Ctrl+Z l'annule.", "Tirage modifié. Ctrl+Z l'annule.",
+                  "Tirage supprimé. Ctrl+Z l'annule.", "Base exportée dans base.txt.",
+                  "Document « base de données » remis à "
+                  "l'imprimante Bureau"}));
 }
 
 TEST_F(DatabasePage, ACancelledCommandSaysNothingAndLeavesNothingToUndo) {

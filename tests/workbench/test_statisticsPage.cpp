@@ -433,7 +433,8 @@ TEST_F(StatisticsPage, AnExportAndAPrintAreAnnounced) {
     page.clickButton(statisticsPage::exportResult);
     page.clickButton(statisticsPage::printResult);
     EXPECT_EQ(desktop.announcements,
-              (Texts{"Statistique exportée dans stat.txt.", "Statistique imprimée."}));
+              (Texts{"Statistique exportée dans stat.txt.",
+                     "Document « Fréquence de sortie d'un numéro » remis à l'imprimante Bureau"}));
 }
 
 } // namespace

@@ -73,7 +73,7 @@ QWidget *GridPreviewDialog::makeToolbar() {
          QStringLiteral("Paramètres d'impression"),
          QStringLiteral("printer"),
          {}},
-        {QStringLiteral("P&DF"),
+        {QStringLiteral("PD&F"),
          QStringLiteral("Enregistrer les bulletins dans un fichier PDF"),
          QStringLiteral("save"),
          {}},

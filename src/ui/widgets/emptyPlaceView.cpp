@@ -8,6 +8,8 @@
 #include "ui/style/theme.h"
 #include "ui/widgets/qtText.h"
 
+#include <QEvent>
+
 namespace boulix {
 
 namespace {
@@ -51,6 +53,16 @@ void EmptyPlaceView::tell(const EmptyPlace &place) {
 void EmptyPlaceView::cover() {
     setGeometry(parentWidget()->rect().adjusted(theme::margin, theme::margin, -theme::margin,
                                                 -theme::margin));
+}
+
+/// A link takes its colour from the palette of the moment in which the text is set.
+void EmptyPlaceView::changeEvent(QEvent *event) {
+    QLabel::changeEvent(event);
+    if (event->type() != QEvent::PaletteChange || text().isEmpty())
+        return;
+    const QString words = text();
+    setText({});
+    setText(words);
 }
 
 } // namespace boulix

@@ -22,6 +22,9 @@ class EmptyPlaceView : public QLabel {
     void tell(const EmptyPlace &place);
     /// Takes all the room of the ground but a margin.
     void cover();
+
+  protected:
+    void changeEvent(QEvent *event) override;
 };
 
 } // namespace boulix

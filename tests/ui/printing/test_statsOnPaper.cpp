@@ -179,6 +179,8 @@ TEST_F(StatsOnPaperTest, APrinterThatIsGoneNowOrNoneAtAllIsOneMessageAndNoDocume
     EXPECT_EQ(server().documents(), before);
     server().removeQueues();
     const int withoutQueues = server().documents();
+    for (int report = 0; report < 2; ++report)
+        desktop.answerNo(); // no PDF either
     mainWindow->statistics.clickButton(statisticsPage::printResult);
     mainWindow->database.clickButton(databasePage::printBase);
     EXPECT_EQ(server().documents(), withoutQueues);

@@ -70,7 +70,7 @@ TEST_F(StatisticsTabOrderTest, TheGraphWindowGoesDownItsPanel) {
     GraphWindow window(rules);
     EXPECT_EQ(orderIn(window, "cmbGraphType"),
               (Names{"cmbGraphType", "chkShowAxes", "chkShowGrid", "optAutoRange", "txtXMin",
-                     "txtXMax", "txtYMin", "txtYMax"}));
+                     "txtXMax", "txtYMin", "txtYMax", "PlotPane"}));
 }
 
 TEST_F(StatisticsTabOrderTest, TheWindowsOfTheSettingsGoDownToTheirButtons) {

@@ -109,7 +109,9 @@ TEST_F(FocusTest, AClickOnAToolButtonLeavesTheFocusWhereItIs) {
             for (QToolButton *button : toolButtons()) {
                 field->setFocus();
                 QTest::mouseClick(button, Qt::LeftButton);
-                EXPECT_EQ(nameOf(window.focusWidget()), nameOf(field))
+                // The link of a list goes with the first row, and the list has the focus then.
+                QWidget *stays = field->isVisible() ? field : field->parentWidget()->parentWidget();
+                EXPECT_EQ(nameOf(window.focusWidget()), nameOf(stays))
                     << place << ", " << nameOf(button);
                 ++clicks;
             }
