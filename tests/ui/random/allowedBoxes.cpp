@@ -55,6 +55,7 @@ const std::vector<Allowed> &allowed() {
         {"Effacement du jeu en construction", "Etes-vous sûr", "a game is cleared"},
         {"boulix Version 4.0.3", "Attention!!! Si les combinaisons", "grids are removed"},
         {"Définition du nom du jeu", "Donnez le", "a system is named"},
+        {"boulix", "Voulez-vous enregistrer le document dans un fichier PDF ?", "no printer"},
         {"Aide", "La page d'aide ", "there is no help in the folder"},
 
         {"boulix: Erreur N° 601", "L'unité de monnaie", "the unit is blank"},
