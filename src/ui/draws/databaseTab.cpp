@@ -115,7 +115,7 @@ QToolButton *DatabaseTab::makeStep(const char *name, const char *icon, const QSt
     action->setToolTip(
         QStringLiteral("%1 (%2)").arg(toolTip, keys.toString(QKeySequence::NativeText)));
     connect(action, &QAction::triggered, this,
-            [this, step] { runCommand([&] { (page_.*step)(); }); });
+            [&page = page_, step] { runCommand([&page, step] { (page.*step)(); }); });
     addAction(action);
     auto *button = new QToolButton(this);
     button->setObjectName(QString::fromLatin1(name));

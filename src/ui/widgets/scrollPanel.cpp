@@ -33,6 +33,11 @@ ScrollPanel::ScrollPanel(QWidget *content, QWidget *parent) : QScrollArea(parent
             [this](const QWidget *, QWidget *now) { follow(now); });
 }
 
+/// A window that goes passes the focus on while it is none of ours any more.
+ScrollPanel::~ScrollPanel() {
+    disconnect(qApp, nullptr, this, nullptr);
+}
+
 QSize ScrollPanel::sizeHint() const {
     return widget()->sizeHint().expandedTo(minimumSizeHint());
 }

@@ -15,6 +15,7 @@ class ScrollPanel : public QScrollArea {
   public:
     /// Shows `content` and owns it.
     explicit ScrollPanel(QWidget *content, QWidget *parent = nullptr);
+    ~ScrollPanel() override;
 
     QSize sizeHint() const override;
     /// As wide as the content and the scroll bar beside it, a few lines high.
