@@ -11,11 +11,14 @@
 #include "ui/widgets/accessibility.h"
 
 #include <QDir>
+#include <QEvent>
 #include <QFileInfo>
+#include <QFontMetrics>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QTranslator>
 #include <QUrl>
+#include <QWidget>
 
 #include <algorithm>
 
