@@ -105,6 +105,7 @@ class FullPage {
         std::vector<std::int64_t> selectedRows() const override { return full_.selected; }
         bool anyRowSelected() const override { return !full_.selected.empty(); }
         void refresh() override {}
+        void showSide(int) override {}
         void runGameList(frmGameList &) override {}
         void runOptimiser(frmOptimiser &) override {}
 
